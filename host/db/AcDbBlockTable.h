@@ -1,0 +1,65 @@
+// Blocks: named lists of entities, among them model space and the paper spaces.
+#pragma once
+
+#include "host/db/AcDbSymbolTable.h"
+
+class AcDbBlockBegin;
+class AcDbBlockEnd;
+class AcDbEntity;
+
+class AcDbBlockTableRecord : public AcDbSymbolTableRecord {
+  ACRX_DECLARE_MEMBERS(AcDbBlockTableRecord);
+
+public:
+  // Takes the entity into the drawing as the block's last; the block owns it, and it stays open for write.
+  // eAlreadyInDb, eSelfReference for an insertion that would make the block contain itself. On failure the
+  // caller keeps it. The block must be open for write.
+  Acad::ErrorStatus appendAcDbEntity(AcDbObjectId& id, AcDbEntity* entity);
+  Acad::ErrorStatus appendAcDbEntity(AcDbEntity* entity);
+  // The entities in drawing order, erased ones included.
+  const std::vector<AcDbObjectId>& entities() const { return m_entities; }
+
+  bool isAnonymous() const;
+  bool isLayout() const; // model space or a paper space
+  bool isModelSpace() const;
+  bool isPaperSpace() const; // the active one
+  bool isFromExternalReference() const;
+  AcGePoint3d origin() const;
+  AcDbObjectId blockBeginId() const { return m_begin; }
+  AcDbObjectId blockEndId() const { return m_end; }
+
+  // --- for the database's own modules -----------------------------------------------------------------------
+  void setBegin(const AcDbObjectId& begin) { m_begin = begin; }
+  void setEnd(const AcDbObjectId& end) { m_end = end; }
+  void file(const AcDbObjectId& entity) { m_entities.push_back(entity); }
+  // A name given when the file is read, without the checks of setName.
+  void setNameAsRead(const CString& name);
+
+protected:
+  void dxfOutFields(DxfRecordEditor& editor) const override;
+
+private:
+  AcDbObjectId m_begin;
+  AcDbObjectId m_end;
+  std::vector<AcDbObjectId> m_entities;
+};
+
+// Walks the entities of a block, erased ones skipped by default.
+class AcDbBlockTableRecordIterator {
+public:
+  explicit AcDbBlockTableRecordIterator(const AcDbBlockTableRecord& block) : m_block(block) { start(); }
+  void start(bool atBeginning = true, bool skipErased = true);
+  bool done() const { return m_at >= m_block.entities().size(); }
+  void step(bool forward = true, bool skipErased = true);
+  Acad::ErrorStatus getEntityId(AcDbObjectId& id) const;
+  Acad::ErrorStatus getEntity(AcDbEntity*& entity, AcDb::OpenMode mode, bool openErased = false) const;
+
+private:
+  const AcDbBlockTableRecord& m_block;
+  std::size_t m_at = 0;
+};
+
+ZP_SYMBOL_TABLE(AcDbBlock);
+
+inline constexpr const wchar_t* ACDB_MODEL_SPACE = L"*Model_Space";
+inline constexpr const wchar_t* ACDB_PAPER_SPACE = L"*Paper_Space";

@@ -1,0 +1,64 @@
+// Named objects: a dictionary maps names to objects of the OBJECTS section; an xrecord holds free data.
+#pragma once
+
+#include "host/db/AcDbDatabase.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+class AcDbDictionary : public AcDbObject {
+  ACRX_DECLARE_MEMBERS(AcDbDictionary);
+
+public:
+  struct Entry {
+    CString name;
+    AcDbHandle handle; // kept for entries whose object the drawing lacks
+    bool hardOwner = false;
+  };
+  const std::vector<Entry>& entries() const { return m_entries; }
+  unsigned int numEntries() const { return static_cast<unsigned int>(m_entries.size()); }
+  // eKeyNotFound; names compare without case.
+  Acad::ErrorStatus getAt(const wchar_t* name, AcDbObjectId& id) const;
+  template <typename T> Acad::ErrorStatus getAt(const wchar_t* name, T*& object, AcDb::OpenMode mode) const {
+    AcDbObjectId id;
+    object = nullptr;
+    const auto status = getAt(name, id);
+    return status == Acad::eOk ? acdbOpenObject(object, id, mode) : status;
+  }
+  // Files a new object under the name, in place of what stood there (which is erased). The dictionary must be
+  // open for write; the object stays open for write.
+  Acad::ErrorStatus setAt(const wchar_t* name, AcDbObject* object, AcDbObjectId& id);
+  // Takes the entry away and erases its object.
+  Acad::ErrorStatus remove(const wchar_t* name);
+
+protected:
+  void dxfInFields(DxfTags tags, const DxfDecodeContext& context) override;
+  void dxfOutFields(DxfRecordEditor& editor) const override;
+
+private:
+  std::vector<Entry> m_entries;
+  bool m_entriesChanged = false;
+};
+
+class AcDbXrecord : public AcDbObject {
+  ACRX_DECLARE_MEMBERS(AcDbXrecord);
+
+public:
+  // The data as a new chain that the caller releases; null for an empty record.
+  Acad::ErrorStatus rbChain(resbuf** chain) const;
+  // eInvalidInput for a chain with a group code outside 1 to 369.
+  Acad::ErrorStatus setFromRbChain(const resbuf& chain);
+
+protected:
+  void dxfInFields(DxfTags tags, const DxfDecodeContext& context) override;
+  void dxfOutFields(DxfRecordEditor& editor) const override;
+
+private:
+  std::optional<std::string> m_newData; // tags; the data stays in the record until it is changed
+};
+
+// An object of the OBJECTS section that the host keeps as it came.
+class AcDbUnknownObject : public AcDbObject {
+  ACRX_DECLARE_MEMBERS(AcDbUnknownObject);
+};

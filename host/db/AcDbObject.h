@@ -1,0 +1,99 @@
+// Base of everything that a drawing holds. An object's persistent form is its record; typed fields of derived
+// classes are decoded from it and merged back into it. Objects are changed only while open for write: that is
+// what lets the database keep the state of before for undo.
+#pragma once
+
+#include "host/db/AcDb.h"
+#include "host/db/AcDbObjectId.h"
+#include "host/db/AcRxObject.h"
+#include "host/db/AcadStatus.h"
+#include "host/db/DxfRecord.h"
+
+#include <string>
+
+class DxfDecodeContext;
+class DxfRecordEditor;
+struct resbuf;
+
+class AcDbObject : public AcRxObject {
+  ACRX_DECLARE_MEMBERS(AcDbObject);
+
+public:
+  AcDbObject() = default;
+  AcDbObject(const AcDbObject&) = delete;
+  AcDbObject& operator=(const AcDbObject&) = delete;
+  ~AcDbObject() override;
+
+  AcDbObjectId objectId() const { return AcDbObjectId(m_stub); }
+  AcDbObjectId id() const { return objectId(); }
+  AcDbHandle handle() const { return m_stub ? m_stub->handle : AcDbHandle(); }
+  AcDbDatabase* database() const { return m_stub ? m_stub->database : nullptr; }
+  AcDbObjectId ownerId() const { return AcDbObjectId(m_owner); }
+  // The structure's own modules set the owner when they take an object in.
+  void setOwnerId(const AcDbObjectId& owner) { m_owner = owner.isNull() ? nullptr : stubOf(owner); }
+
+  // Ends the opening. An object that never entered a database is not closed but deleted.
+  Acad::ErrorStatus close();
+  // From the only reader to writer; eAtMaxReaders (others read), eWasOpenForWrite, eNotOpenForRead.
+  Acad::ErrorStatus upgradeOpen();
+  Acad::ErrorStatus downgradeOpen();
+  bool isReadEnabled() const { return !m_stub || m_readers > 0 || m_writing; }
+  bool isWriteEnabled() const { return !m_stub || m_writing; }
+
+  // Marks as erased, or brings back. Must be open for write.
+  virtual Acad::ErrorStatus erase(bool erasing = true);
+  bool isErased() const { return m_erased; }
+
+  // Extended data of one application (null: of all), as a new chain that the caller releases with acutRelRb;
+  // null where there is none.
+  resbuf* xData(const wchar_t* application = nullptr) const;
+  // Replaces the data of the application that the chain begins with (1001); a chain of the 1001 alone takes it
+  // away. eRegappIdNotFound when the application is not registered, eXdataSizeExceeded above 16 KB in total,
+  // eInvalidInput for a chain that is none. Must be open for write.
+  Acad::ErrorStatus setXData(const resbuf* chain);
+
+  AcDbObjectId extensionDictionary() const;
+
+  // --- persistent form --------------------------------------------------------------------------------------
+  // The record with all changes of the typed fields merged in.
+  const DxfRecord& record() const;
+  // Takes a record as the object's state and decodes it.
+  void setRecord(DxfRecord record, const DxfDecodeContext& context);
+  void setRecord(DxfRecord record, DxfTags tags, const DxfDecodeContext& context);
+  // An object that the host made because the format wants it, and that no file held.
+  bool isImplicit() const { return m_implicit; }
+  void setImplicit(bool implicit) { m_implicit = implicit; }
+  // Makes the next record() merge the fields again, because a name that they refer to has changed.
+  void invalidateRecord() { m_fieldsChanged = true; }
+
+  // --- opening, for the database ----------------------------------------------------------------------------
+  Acad::ErrorStatus open(AcDb::OpenMode mode, bool openErased);
+  void setStub(AcDbStub* stub) { m_stub = stub; }
+  void setErasedFlag(bool erased) { m_erased = erased; }
+
+protected:
+  // Fields to their defaults, then from the tags. Must not fail: what is damaged is reported to the context
+  // and left at its default.
+  virtual void dxfInFields(DxfTags tags, const DxfDecodeContext& context);
+  virtual void dxfOutFields(DxfRecordEditor& editor) const;
+  // Called by setters: the object must be open for write, and its record is merged anew when next asked for.
+  Acad::ErrorStatus assertWriteEnabled();
+  // Decoding text that stays in the record until someone asks for it.
+  const DxfRecord& rawRecord() const { return m_record; }
+  void replaceRawRecord(DxfRecord record) { m_record = std::move(record); }
+  // The owner's and handle's tags that every record begins with.
+  void dxfOutHead(DxfRecordEditor& editor, std::string_view type, int handleCode = 5) const;
+
+private:
+  static AcDbStub* stubOf(const AcDbObjectId& id);
+
+  AcDbStub* m_stub = nullptr;
+  AcDbStub* m_owner = nullptr;
+  mutable DxfRecord m_record;
+  short m_readers = 0;
+  bool m_writing = false;
+  bool m_erased = false;
+  bool m_implicit = false;
+  bool m_changedWhileOpen = false;
+  mutable bool m_fieldsChanged = false;
+};

@@ -1,0 +1,103 @@
+// A symbol table: its records by name in O(1) and in the order of the file. The typed tables below differ only
+// in the class of their records.
+#pragma once
+
+#include "host/db/AcDbObjectPointer.h"
+#include "host/db/AcDbSymbolTableRecord.h"
+
+#include <unordered_map>
+#include <vector>
+
+class AcDbSymbolTableIterator;
+
+class AcDbSymbolTable : public AcDbObject {
+  ACRX_DECLARE_MEMBERS(AcDbSymbolTable);
+
+public:
+  // eKeyNotFound when there is none, eWasErased when it is erased.
+  Acad::ErrorStatus getAt(const wchar_t* name, AcDbObjectId& id, bool getErased = false) const;
+  bool has(const wchar_t* name) const;
+  // Takes the record into the drawing; the table owns it, and it stays open for write. eInvalidName,
+  // eDuplicateRecordName, eNotThatKindOfClass; on failure the caller keeps it. Table must be open for write.
+  Acad::ErrorStatus add(AcDbSymbolTableRecord* record);
+  Acad::ErrorStatus add(AcDbObjectId& id, AcDbSymbolTableRecord* record);
+
+  // --- for the database's own modules -----------------------------------------------------------------------
+  const std::vector<AcDbObjectId>& records() const { return m_records; }
+  // The record type of the entries, "LAYER".
+  virtual std::string_view recordType() const { return m_recordType; }
+  void setRecordType(std::string_view type) { m_recordType = type; }
+  // The entries' class; the plain record class for tables whose entries the host keeps as they came.
+  virtual AcRxClass* recordClass() const;
+  // Files a record that is in the database already.
+  void file(AcDbSymbolTableRecord& record);
+  void nameChanged(AcDbSymbolTableRecord& record);
+
+protected:
+  void dxfOutFields(DxfRecordEditor& editor) const override;
+
+private:
+  std::vector<AcDbObjectId> m_records;
+  std::unordered_multimap<std::wstring, AcDbObjectId> m_byName; // folded; may hold names of before
+  std::string m_recordType;
+};
+
+// Walks the records of a table in their order, erased ones skipped by default.
+class AcDbSymbolTableIterator {
+public:
+  explicit AcDbSymbolTableIterator(const AcDbSymbolTable& table);
+  virtual ~AcDbSymbolTableIterator() = default;
+  void start(bool atBeginning = true, bool skipErased = true);
+  bool done() const { return m_at >= m_ids.size(); }
+  void step(bool forward = true, bool skipErased = true);
+  Acad::ErrorStatus getRecordId(AcDbObjectId& id) const;
+  Acad::ErrorStatus getRecord(AcDbSymbolTableRecord*& record, AcDb::OpenMode mode, bool openErased = false) const;
+
+protected:
+  template <typename Record>
+  Acad::ErrorStatus getTypedRecord(Record*& record, AcDb::OpenMode mode, bool openErased) const {
+    AcDbObjectId id;
+    record = nullptr;
+    if (const auto status = getRecordId(id); status != Acad::eOk) return status;
+    return acdbOpenObject(record, id, mode, openErased);
+  }
+
+private:
+  void skip(bool forward, bool skipErased);
+
+  std::vector<AcDbObjectId> m_ids;
+  std::size_t m_at = 0;
+};
+
+// A table of one class of records, with the typed calls that siblings use.
+template <typename Record, typename Iterator> class AcDbTypedSymbolTable : public AcDbSymbolTable {
+public:
+  using AcDbSymbolTable::getAt;
+  Acad::ErrorStatus getAt(const wchar_t* name, Record*& record, AcDb::OpenMode mode,
+                          bool openErased = false) const {
+    AcDbObjectId id;
+    record = nullptr;
+    if (const auto status = AcDbSymbolTable::getAt(name, id, openErased); status != Acad::eOk) return status;
+    return acdbOpenObject(record, id, mode, openErased);
+  }
+  // The iterator belongs to the caller, who deletes it.
+  Acad::ErrorStatus newIterator(Iterator*& iterator, bool atBeginning = true, bool skipErased = true) const {
+    iterator = new Iterator(*this);
+    iterator->start(atBeginning, skipErased);
+    return Acad::eOk;
+  }
+  AcRxClass* recordClass() const override { return Record::desc(); }
+};
+
+#define ZP_SYMBOL_TABLE(STEM)                                                                                \
+  class STEM##TableIterator : public AcDbSymbolTableIterator {                                               \
+  public:                                                                                                    \
+    using AcDbSymbolTableIterator::AcDbSymbolTableIterator;                                                  \
+    using AcDbSymbolTableIterator::getRecord;                                                                \
+    Acad::ErrorStatus getRecord(STEM##TableRecord*& record, AcDb::OpenMode mode, bool openErased = false) {  \
+      return getTypedRecord(record, mode, openErased);                                                       \
+    }                                                                                                        \
+  };                                                                                                         \
+  class STEM##Table : public AcDbTypedSymbolTable<STEM##TableRecord, STEM##TableIterator> {                  \
+    ACRX_DECLARE_MEMBERS(STEM##Table);                                                                       \
+  }
