@@ -1,0 +1,54 @@
+// Drawings from and to files. Reading fills an empty database; writing gives back every tag that was read, and
+// what was changed in its place.
+#pragma once
+
+#include "host/afx/CString.h"
+
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <vector>
+
+class AcDbDatabase;
+
+namespace dxf {
+
+// Something in a file that was not as it should be and was mended without losing anything.
+struct Repair {
+  std::size_t line = 0; // in the file, from 1; 0 where it belongs to no line
+  int groupCode = -1;   // -1 where it belongs to no tag
+  CString what;         // a sentence for the user
+};
+
+struct ReadOptions {
+  // Take what can be saved of a file that is cut off or broken, instead of refusing it. Each loss is listed.
+  bool recover = false;
+  // Told how much is done, 0 to 1; giving false cancels the reading.
+  std::function<bool(double)> progress;
+};
+
+struct ReadReport {
+  bool ok = false;
+  CString error;             // names the file, and line and group where there are any; empty when ok
+  std::vector<Repair> repairs;
+};
+
+// database must be a fresh one made with AcDbDatabase(false). On failure it is to be thrown away.
+ReadReport ReadDrawing(const CString& path, AcDbDatabase& database, const ReadOptions& options = {});
+// The same from the bytes of a file; name is for messages.
+ReadReport ReadDrawingBytes(std::string bytes, const CString& name, AcDbDatabase& database,
+                            const ReadOptions& options = {});
+
+struct WriteReport {
+  bool ok = false;
+  CString error;
+};
+
+// Writes atomically: on failure the old file is as it was.
+WriteReport WriteDrawing(AcDbDatabase& database, const CString& path);
+std::string WriteDrawingBytes(AcDbDatabase& database);
+
+// Fills a fresh AcDbDatabase(false) with an empty metric drawing that other programs open without complaint.
+void BuildNewDrawing(AcDbDatabase& database);
+
+} // namespace dxf
