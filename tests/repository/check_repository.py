@@ -1,12 +1,14 @@
 #!/usr/bin/python3
-"""Holds the repository's own files against its rules: includes, texts, format. The rules stand in rules.py.
+"""Holds the repository's own files against its rules: includes, texts, documents, format. The tables stand in
+rules.py.
 
-Usage: check_repository.py includes|texts|format [ROOT]
+Usage: check_repository.py includes|texts|documents|format [ROOT]
 Prints a line for each finding. Exit status 0 without findings, 1 with, 77 when clang-format is missing."""
 
 import os
 import sys
 
+import document_rules
 import format_rules
 import include_rules
 import rules
@@ -52,11 +54,18 @@ def check_texts(root):
             yield path, line, message
 
 
+def check_documents(root):
+    read = reader(root)
+    for path in walk(root, (".md",)):
+        for line, message in document_rules.check(path, read(path), lambda p: os.path.exists(os.path.join(root, p))):
+            yield path, line, message
+
+
 def check_format(root):
     return format_rules.check(root, list(walk(root, rules.SOURCE_SUFFIXES)))
 
 
-CHECKS = {"includes": check_includes, "texts": check_texts, "format": check_format}
+CHECKS = {"includes": check_includes, "texts": check_texts, "documents": check_documents, "format": check_format}
 
 
 def main(arguments):

@@ -6,6 +6,7 @@ import tempfile
 import unittest
 
 import check_repository
+import document_rules
 import format_rules
 import include_rules
 import text_rules
@@ -112,6 +113,20 @@ class Texts(unittest.TestCase):
         for word in ["TO" + "DO", "FIX" + "ME", "for" + " now"]:
             self.assertIn(word, self.messages("a.py", f"# {word}: later")[0])
         self.assertEqual(self.messages("a.py", "# forks nowhere"), [])
+
+
+class Documents(unittest.TestCase):
+    def messages(self, text, *existing):
+        return [message for _, message in document_rules.check("docs/A.md", text, lambda path: path in existing)]
+
+    def test_a_link_is_taken_from_the_documents_folder(self):
+        text = "See [b](../B.md#part) and [site](https://example.org/x)."
+        self.assertEqual(self.messages(text, "B.md"), [])
+        self.assertIn("links to", self.messages(text)[0])
+
+    def test_a_named_file_must_exist(self):
+        self.assertEqual(self.messages("`host/ge/A.h` and `main.cpp`", "host/ge/A.h"), [])
+        self.assertIn('names "host/ge/A.h"', self.messages("open `host/ge/A.h`, `host/db/B.h`", "host/db/B.h")[0])
 
 
 class Walk(unittest.TestCase):
