@@ -4,7 +4,7 @@
 #include "host/db/AcadStatus.h"
 
 class AcCmColor {
-public:
+ public:
   static constexpr int kByBlock = 0;
   static constexpr int kByLayer = 256;
 
@@ -21,6 +21,6 @@ public:
   bool isByBlock() const { return m_index == kByBlock; }
   bool operator==(const AcCmColor&) const = default;
 
-private:
+ private:
   int m_index = kByLayer;
 };

@@ -6,7 +6,7 @@
 class AcDbBlockReference : public AcDbEntity {
   ACRX_DECLARE_MEMBERS(AcDbBlockReference);
 
-public:
+ public:
   AcDbBlockReference() = default;
   AcDbBlockReference(const AcGePoint3d& position, const AcDbObjectId& block)
       : m_position(position), m_block(block) {}
@@ -22,11 +22,11 @@ public:
   void worldDraw(AcGiWorldDraw& draw) const override;
   Acad::ErrorStatus transformBy(const AcGeMatrix3d& matrix) override;
 
-protected:
+ protected:
   void dxfInFields(DxfTags tags, const DxfDecodeContext& context) override;
   void dxfOutFields(DxfRecordEditor& editor) const override;
 
-private:
+ private:
   AcGePoint3d m_position; // in the system of the normal
   AcGeVector3d m_normal{0, 0, 1};
   AcGeVector3d m_scale{1, 1, 1};

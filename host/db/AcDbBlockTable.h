@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/db/AcDbSymbolTable.h"
+#include "host/ge/AcGePoint3d.h"
 
 class AcDbBlockBegin;
 class AcDbBlockEnd;
@@ -10,7 +11,7 @@ class AcDbEntity;
 class AcDbBlockTableRecord : public AcDbSymbolTableRecord {
   ACRX_DECLARE_MEMBERS(AcDbBlockTableRecord);
 
-public:
+ public:
   // Takes the entity into the drawing as the block's last; the block owns it, and it stays open for write.
   // eAlreadyInDb, eSelfReference for an insertion that would make the block contain itself. On failure the
   // caller keeps it. The block must be open for write.
@@ -28,17 +29,16 @@ public:
   AcDbObjectId blockBeginId() const { return m_begin; }
   AcDbObjectId blockEndId() const { return m_end; }
 
-  // --- for the database's own modules -----------------------------------------------------------------------
+  // --- for the database's own modules
+  // -----------------------------------------------------------------------
   void setBegin(const AcDbObjectId& begin) { m_begin = begin; }
   void setEnd(const AcDbObjectId& end) { m_end = end; }
   void file(const AcDbObjectId& entity) { m_entities.push_back(entity); }
-  // A name given when the file is read, without the checks of setName.
-  void setNameAsRead(const CString& name);
 
-protected:
+ protected:
   void dxfOutFields(DxfRecordEditor& editor) const override;
 
-private:
+ private:
   AcDbObjectId m_begin;
   AcDbObjectId m_end;
   std::vector<AcDbObjectId> m_entities;
@@ -46,7 +46,7 @@ private:
 
 // Walks the entities of a block, erased ones skipped by default.
 class AcDbBlockTableRecordIterator {
-public:
+ public:
   explicit AcDbBlockTableRecordIterator(const AcDbBlockTableRecord& block) : m_block(block) { start(); }
   void start(bool atBeginning = true, bool skipErased = true);
   bool done() const { return m_at >= m_block.entities().size(); }
@@ -54,7 +54,7 @@ public:
   Acad::ErrorStatus getEntityId(AcDbObjectId& id) const;
   Acad::ErrorStatus getEntity(AcDbEntity*& entity, AcDb::OpenMode mode, bool openErased = false) const;
 
-private:
+ private:
   const AcDbBlockTableRecord& m_block;
   std::size_t m_at = 0;
 };

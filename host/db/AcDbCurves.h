@@ -11,7 +11,7 @@
 class AcDbCurve : public AcDbEntity {
   ACRX_DECLARE_MEMBERS(AcDbCurve);
 
-public:
+ public:
   virtual bool isClosed() const { return false; }
   // World coordinates; eNotApplicable for a circle.
   virtual Acad::ErrorStatus getStartPoint(AcGePoint3d& point) const;
@@ -21,7 +21,7 @@ public:
 class AcDbLine : public AcDbCurve {
   ACRX_DECLARE_MEMBERS(AcDbLine);
 
-public:
+ public:
   AcDbLine() = default;
   AcDbLine(const AcGePoint3d& start, const AcGePoint3d& end) : m_start(start), m_end(end) {}
   AcGePoint3d startPoint() const { return m_start; }
@@ -33,11 +33,11 @@ public:
   void worldDraw(AcGiWorldDraw& draw) const override;
   Acad::ErrorStatus transformBy(const AcGeMatrix3d& matrix) override;
 
-protected:
+ protected:
   void dxfInFields(DxfTags tags, const DxfDecodeContext& context) override;
   void dxfOutFields(DxfRecordEditor& editor) const override;
 
-private:
+ private:
   AcGePoint3d m_start;
   AcGePoint3d m_end;
   AcGeVector3d m_normal{0, 0, 1};
@@ -47,7 +47,7 @@ private:
 class AcDbCircle : public AcDbCurve {
   ACRX_DECLARE_MEMBERS(AcDbCircle);
 
-public:
+ public:
   AcDbCircle() = default;
   AcDbCircle(const AcGePoint3d& centre, const AcGeVector3d& normal, double radius);
   AcGePoint3d center() const; // world
@@ -59,11 +59,11 @@ public:
   void worldDraw(AcGiWorldDraw& draw) const override;
   Acad::ErrorStatus transformBy(const AcGeMatrix3d& matrix) override;
 
-protected:
+ protected:
   void dxfInFields(DxfTags tags, const DxfDecodeContext& context) override;
   void dxfOutFields(DxfRecordEditor& editor) const override;
 
-private:
+ private:
   AcGePoint3d m_center; // in the system of the normal
   AcGeVector3d m_normal{0, 0, 1};
   double m_radius = 1;
@@ -73,7 +73,7 @@ private:
 class AcDbArc : public AcDbCurve {
   ACRX_DECLARE_MEMBERS(AcDbArc);
 
-public:
+ public:
   AcDbArc() = default;
   // Angles in radians, anticlockwise about the normal.
   AcDbArc(const AcGePoint3d& centre, const AcGeVector3d& normal, double radius, double startAngle,
@@ -92,11 +92,11 @@ public:
   void worldDraw(AcGiWorldDraw& draw) const override;
   Acad::ErrorStatus transformBy(const AcGeMatrix3d& matrix) override;
 
-protected:
+ protected:
   void dxfInFields(DxfTags tags, const DxfDecodeContext& context) override;
   void dxfOutFields(DxfRecordEditor& editor) const override;
 
-private:
+ private:
   AcGePoint3d m_center;
   AcGeVector3d m_normal{0, 0, 1};
   double m_radius = 1;
@@ -108,7 +108,7 @@ private:
 class AcDbPolyline : public AcDbCurve {
   ACRX_DECLARE_MEMBERS(AcDbPolyline);
 
-public:
+ public:
   unsigned int numVerts() const { return static_cast<unsigned int>(m_vertices.size()); }
   // eOutOfRange for an index that there is none of.
   Acad::ErrorStatus getPointAt(unsigned int index, AcGePoint2d& point) const; // in the system of the normal
@@ -134,11 +134,11 @@ public:
   void worldDraw(AcGiWorldDraw& draw) const override;
   Acad::ErrorStatus transformBy(const AcGeMatrix3d& matrix) override;
 
-protected:
+ protected:
   void dxfInFields(DxfTags tags, const DxfDecodeContext& context) override;
   void dxfOutFields(DxfRecordEditor& editor) const override;
 
-private:
+ private:
   struct Vertex {
     AcGePoint2d point;
     double bulge = 0;
@@ -158,7 +158,7 @@ private:
 class AcDbPoint : public AcDbEntity {
   ACRX_DECLARE_MEMBERS(AcDbPoint);
 
-public:
+ public:
   AcDbPoint() = default;
   explicit AcDbPoint(const AcGePoint3d& position) : m_position(position) {}
   AcGePoint3d position() const { return m_position; }
@@ -166,11 +166,11 @@ public:
   void worldDraw(AcGiWorldDraw& draw) const override;
   Acad::ErrorStatus transformBy(const AcGeMatrix3d& matrix) override;
 
-protected:
+ protected:
   void dxfInFields(DxfTags tags, const DxfDecodeContext& context) override;
   void dxfOutFields(DxfRecordEditor& editor) const override;
 
-private:
+ private:
   AcGePoint3d m_position;
   AcGeVector3d m_normal{0, 0, 1};
 };

@@ -27,16 +27,17 @@ class AcDbViewTable;
 class AcDbViewportTable;
 
 class AcDbDatabase {
-public:
-  // With buildDefaultDrawing the standard tables and entries exist at once (layer 0, linetypes ByBlock, ByLayer
-  // and Continuous, style Standard, application ACAD, model and paper space, the root dictionary), as objects
-  // that no file held. Without it the tables are there and empty, for a reader to fill.
+ public:
+  // With buildDefaultDrawing the standard tables and entries exist at once (layer 0, linetypes ByBlock,
+  // ByLayer and Continuous, style Standard, application ACAD, model and paper space, the root dictionary), as
+  // objects that no file held. Without it the tables are there and empty, for a reader to fill.
   explicit AcDbDatabase(bool buildDefaultDrawing = true);
   ~AcDbDatabase();
   AcDbDatabase(const AcDbDatabase&) = delete;
   AcDbDatabase& operator=(const AcDbDatabase&) = delete;
 
-  // --- symbol tables ----------------------------------------------------------------------------------------
+  // --- symbol tables
+  // ----------------------------------------------------------------------------------------
   Acad::ErrorStatus getSymbolTable(AcDbBlockTable*& table, AcDb::OpenMode mode);
   Acad::ErrorStatus getSymbolTable(AcDbDimStyleTable*& table, AcDb::OpenMode mode);
   Acad::ErrorStatus getSymbolTable(AcDbLayerTable*& table, AcDb::OpenMode mode);
@@ -61,16 +62,18 @@ public:
   // Registers an application name for extended data, if it isn't yet.
   Acad::ErrorStatus registerApplication(const CString& name);
 
-  // --- dictionaries -----------------------------------------------------------------------------------------
+  // --- dictionaries
+  // -----------------------------------------------------------------------------------------
   Acad::ErrorStatus getNamedObjectsDictionary(AcDbDictionary*& dictionary, AcDb::OpenMode mode);
   AcDbObjectId namedObjectsDictionaryId() const { return m_namedObjects; }
   void setNamedObjectsDictionaryId(const AcDbObjectId& id) { m_namedObjects = id; }
   // The objects of the OBJECTS section in the order of the file.
   const std::vector<AcDbObjectId>& objects() const { return m_objects; }
 
-  // --- objects ----------------------------------------------------------------------------------------------
-  // Takes object into the drawing under a new handle (or the one given, which must be free): the database owns
-  // it from then on, and it is open for write. eAlreadyInDb when it is in one.
+  // --- objects
+  // ---------------------------------------------------------------------------------------------- Takes
+  // object into the drawing under a new handle (or the one given, which must be free): the database owns it
+  // from then on, and it is open for write. eAlreadyInDb when it is in one.
   Acad::ErrorStatus addAcDbObject(AcDbObject* object, const AcDbObjectId& owner = {}, AcDbHandle handle = {});
   // addAcDbObject, and the object is filed in the OBJECTS section.
   Acad::ErrorStatus addToObjects(AcDbObject* object, const AcDbObjectId& owner, AcDbHandle handle = {});
@@ -82,7 +85,8 @@ public:
   // All objects in the order in which they came, erased ones included.
   const std::deque<AcDbStub>& stubs() const { return m_stubs; }
 
-  // --- settings ---------------------------------------------------------------------------------------------
+  // --- settings
+  // ---------------------------------------------------------------------------------------------
   AcDbHeader& header() { return *m_header; }
   const AcDbHeader& header() const { return *m_header; }
   AcDbObjectId headerId() const { return m_header->objectId(); }
@@ -90,12 +94,14 @@ public:
   // eNullObjectId, eNotThatKindOfClass, eWasErased for what is no layer of this drawing.
   Acad::ErrorStatus setClayer(const AcDbObjectId& layer);
   // Loads one linetype (or "*" for all) from a linetype file, found as given or in the support folders.
-  // eFileNotFound, eUndefinedLineType, eDuplicateRecordName, eFilerError for a damaged file (logged with line).
+  // eFileNotFound, eUndefinedLineType, eDuplicateRecordName, eFilerError for a damaged file (logged with
+  // line).
   Acad::ErrorStatus loadLineTypeFile(const wchar_t* linetype, const wchar_t* file);
   // Folders in which support files such as acad.lin are looked for, for all databases.
   static void setSupportFolders(std::vector<CString> folders);
 
-  // --- state ------------------------------------------------------------------------------------------------
+  // --- state
+  // ------------------------------------------------------------------------------------------------
   UndoHistory& undo() { return *m_undo; }
   const UndoHistory& undo() const { return *m_undo; }
   DrawingForm& form() { return m_form; }
@@ -119,7 +125,7 @@ public:
   // Adds what every drawing must have and this one lacks, as implicit objects. Returns what was added.
   std::vector<CString> completeStandardEntries();
 
-private:
+ private:
   friend class UndoHistory;
   template <typename Table> Acad::ErrorStatus openTable(Table*& table, AcDb::OpenMode mode);
   template <typename Table> AcDbObjectId tableId() const;
@@ -139,9 +145,10 @@ private:
   bool m_renamed = false;
 };
 
-// --- opening --------------------------------------------------------------------------------------------------
-// Opens an object: eNullObjectId, eWasErased (unless openErased), eWasOpenForWrite (somebody writes),
-// eWasOpenForRead (somebody reads and mode is write), eOnLockedLayer (an entity for write on a locked layer),
+// --- opening
+// -------------------------------------------------------------------------------------------------- Opens an
+// object: eNullObjectId, eWasErased (unless openErased), eWasOpenForWrite (somebody writes), eWasOpenForRead
+// (somebody reads and mode is write), eOnLockedLayer (an entity for write on a locked layer),
 // eNotThatKindOfClass for the typed forms. On failure object is null.
 Acad::ErrorStatus acdbOpenObject(AcDbObject*& object, const AcDbObjectId& id, AcDb::OpenMode mode,
                                  bool openErased = false);
@@ -166,13 +173,14 @@ class AcDbEntity;
 Acad::ErrorStatus acdbOpenAcDbEntity(AcDbEntity*& entity, const AcDbObjectId& id, AcDb::OpenMode mode,
                                      bool openErased = false);
 
-// --- the working drawing --------------------------------------------------------------------------------------
+// --- the working drawing
+// --------------------------------------------------------------------------------------
 class AcDbHostApplicationServices {
-public:
+ public:
   AcDbDatabase* workingDatabase() const { return m_working; }
   void setWorkingDatabase(AcDbDatabase* database) { m_working = database; }
 
-private:
+ private:
   AcDbDatabase* m_working = nullptr;
 };
 

@@ -5,7 +5,7 @@ class AcDbDatabase;
 class AcDbObject;
 
 class AcDbDatabaseReactor {
-public:
+ public:
   virtual ~AcDbDatabaseReactor() = default;
   virtual void objectAppended(const AcDbDatabase*, const AcDbObject*) {}
   virtual void objectModified(const AcDbDatabase*, const AcDbObject*) {}

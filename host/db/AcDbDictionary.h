@@ -10,7 +10,7 @@
 class AcDbDictionary : public AcDbObject {
   ACRX_DECLARE_MEMBERS(AcDbDictionary);
 
-public:
+ public:
   struct Entry {
     CString name;
     AcDbHandle handle; // kept for entries whose object the drawing lacks
@@ -32,11 +32,11 @@ public:
   // Takes the entry away and erases its object.
   Acad::ErrorStatus remove(const wchar_t* name);
 
-protected:
+ protected:
   void dxfInFields(DxfTags tags, const DxfDecodeContext& context) override;
   void dxfOutFields(DxfRecordEditor& editor) const override;
 
-private:
+ private:
   std::vector<Entry> m_entries;
   bool m_entriesChanged = false;
 };
@@ -44,17 +44,17 @@ private:
 class AcDbXrecord : public AcDbObject {
   ACRX_DECLARE_MEMBERS(AcDbXrecord);
 
-public:
+ public:
   // The data as a new chain that the caller releases; null for an empty record.
   Acad::ErrorStatus rbChain(resbuf** chain) const;
   // eInvalidInput for a chain with a group code outside 1 to 369.
   Acad::ErrorStatus setFromRbChain(const resbuf& chain);
 
-protected:
+ protected:
   void dxfInFields(DxfTags tags, const DxfDecodeContext& context) override;
   void dxfOutFields(DxfRecordEditor& editor) const override;
 
-private:
+ private:
   std::optional<std::string> m_newData; // tags; the data stays in the record until it is changed
 };
 

@@ -14,7 +14,7 @@ class AcGiWorldDraw;
 class AcDbEntity : public AcDbObject {
   ACRX_DECLARE_MEMBERS(AcDbEntity);
 
-public:
+ public:
   AcDbObjectId blockId() const { return ownerId(); }
 
   CString layer() const; // "0" for an entity outside a drawing
@@ -43,8 +43,8 @@ public:
   virtual void worldDraw(AcGiWorldDraw& draw) const;
   // The box around what it draws. eInvalidExtents when it draws nothing.
   virtual Acad::ErrorStatus getGeomExtents(AcDbExtents& extents) const;
-  // eNotApplicable for entities whose geometry the host doesn't understand, eCannotScaleNonUniformly where the
-  // class can't follow the matrix; the entity stays as it was then.
+  // eNotApplicable for entities whose geometry the host doesn't understand, eCannotScaleNonUniformly where
+  // the class can't follow the matrix; the entity stays as it was then.
   virtual Acad::ErrorStatus transformBy(const AcGeMatrix3d& matrix);
 
   // The record type in drawing files ("LINE"), also of entities that the host keeps as they came.
@@ -62,11 +62,11 @@ public:
   bool isInPaperSpace() const { return m_paperSpace; }
   void setPaperSpace(bool paperSpace) { m_paperSpace = paperSpace; }
 
-protected:
+ protected:
   void dxfInFields(DxfTags tags, const DxfDecodeContext& context) override;
   void dxfOutFields(DxfRecordEditor& editor) const override;
 
-private:
+ private:
   AcDbObjectId m_layer;
   AcDbObjectId m_linetype;
   double m_linetypeScale = 1.0;

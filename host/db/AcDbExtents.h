@@ -9,7 +9,7 @@
 #include <limits>
 
 class AcDbExtents {
-public:
+ public:
   AcDbExtents() = default;
   AcDbExtents(const AcGePoint3d& lower, const AcGePoint3d& upper) : m_min(lower), m_max(upper) {}
   const AcGePoint3d& minPoint() const { return m_min; }
@@ -27,7 +27,7 @@ public:
     addPoint(other.m_max);
   }
 
-private:
+ private:
   static constexpr double kInfinite = std::numeric_limits<double>::infinity();
   AcGePoint3d m_min{kInfinite, kInfinite, kInfinite};
   AcGePoint3d m_max{-kInfinite, -kInfinite, -kInfinite};

@@ -20,4 +20,6 @@ std::string AcDbHandle::toHex() const {
   return hex;
 }
 
-CString AcDbHandle::ascii() const { return CString::FromUtf8(toHex()); }
+CString AcDbHandle::ascii() const {
+  return CString::FromUtf8(toHex());
+}

@@ -10,7 +10,7 @@
 #include <string_view>
 
 class AcDbHandle {
-public:
+ public:
   constexpr AcDbHandle() = default;
   constexpr explicit AcDbHandle(std::uint64_t value) : m_value(value) {}
 
@@ -24,7 +24,7 @@ public:
 
   auto operator<=>(const AcDbHandle&) const = default;
 
-private:
+ private:
   std::uint64_t m_value = 0;
 };
 

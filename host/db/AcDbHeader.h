@@ -11,7 +11,7 @@
 class AcDbHeader : public AcDbObject {
   ACRX_DECLARE_MEMBERS(AcDbHeader);
 
-public:
+ public:
   // The tags of a variable, without its name; empty when the drawing doesn't have it. Name with the "$".
   std::vector<DxfTag> variable(std::string_view name) const;
   bool has(std::string_view name) const { return !variable(name).empty(); }

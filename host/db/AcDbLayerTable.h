@@ -7,7 +7,7 @@
 class AcDbLayerTableRecord : public AcDbSymbolTableRecord {
   ACRX_DECLARE_MEMBERS(AcDbLayerTableRecord);
 
-public:
+ public:
   bool isOff() const { return m_off; }
   bool isFrozen() const { return flag(1); }
   bool isLocked() const { return flag(4); }
@@ -32,11 +32,11 @@ public:
   // eInvalidInput for a weight that no drawing may hold. The default weight is the natural one for a layer.
   Acad::ErrorStatus setLineWeight(AcDb::LineWeight weight);
 
-protected:
+ protected:
   void dxfInFields(DxfTags tags, const DxfDecodeContext& context) override;
   void dxfOutFields(DxfRecordEditor& editor) const override;
 
-private:
+ private:
   bool m_off = false;
   bool m_plottable = true;
   short m_colorIndex = 7;

@@ -18,7 +18,7 @@ struct resbuf;
 class AcDbObject : public AcRxObject {
   ACRX_DECLARE_MEMBERS(AcDbObject);
 
-public:
+ public:
   AcDbObject() = default;
   AcDbObject(const AcDbObject&) = delete;
   AcDbObject& operator=(const AcDbObject&) = delete;
@@ -47,15 +47,16 @@ public:
   // Extended data of one application (null: of all), as a new chain that the caller releases with acutRelRb;
   // null where there is none.
   resbuf* xData(const wchar_t* application = nullptr) const;
-  // Replaces the data of the application that the chain begins with (1001); a chain of the 1001 alone takes it
-  // away. eRegappIdNotFound when the application is not registered, eXdataSizeExceeded above 16 KB in total,
-  // eInvalidInput for a chain that is none. Must be open for write.
+  // Replaces the data of the application that the chain begins with (1001); a chain of the 1001 alone takes
+  // it away. eRegappIdNotFound when the application is not registered, eXdataSizeExceeded above 16 KB in
+  // total, eInvalidInput for a chain that is none. Must be open for write.
   Acad::ErrorStatus setXData(const resbuf* chain);
 
   AcDbObjectId extensionDictionary() const;
 
-  // --- persistent form --------------------------------------------------------------------------------------
-  // The record with all changes of the typed fields merged in.
+  // --- persistent form
+  // -------------------------------------------------------------------------------------- The record with
+  // all changes of the typed fields merged in.
   const DxfRecord& record() const;
   // Takes a record as the object's state and decodes it.
   void setRecord(DxfRecord record, const DxfDecodeContext& context);
@@ -66,12 +67,13 @@ public:
   // Makes the next record() merge the fields again, because a name that they refer to has changed.
   void invalidateRecord() { m_fieldsChanged = true; }
 
-  // --- opening, for the database ----------------------------------------------------------------------------
+  // --- opening, for the database
+  // ----------------------------------------------------------------------------
   Acad::ErrorStatus open(AcDb::OpenMode mode, bool openErased);
   void setStub(AcDbStub* stub) { m_stub = stub; }
   void setErasedFlag(bool erased) { m_erased = erased; }
 
-protected:
+ protected:
   // Fields to their defaults, then from the tags. Must not fail: what is damaged is reported to the context
   // and left at its default.
   virtual void dxfInFields(DxfTags tags, const DxfDecodeContext& context);
@@ -84,7 +86,7 @@ protected:
   // The owner's and handle's tags that every record begins with.
   void dxfOutHead(DxfRecordEditor& editor, std::string_view type, int handleCode = 5) const;
 
-private:
+ private:
   static AcDbStub* stubOf(const AcDbObjectId& id);
 
   AcDbStub* m_stub = nullptr;

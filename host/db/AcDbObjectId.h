@@ -15,7 +15,7 @@ struct AcDbStub {
 };
 
 class AcDbObjectId {
-public:
+ public:
   constexpr AcDbObjectId() = default;
   constexpr explicit AcDbObjectId(AcDbStub* stub) : m_stub(stub) {}
 
@@ -36,7 +36,7 @@ public:
   bool operator<(const AcDbObjectId& other) const { return handle() < other.handle(); }
   explicit operator bool() const { return m_stub != nullptr; }
 
-private:
+ private:
   friend struct std::hash<AcDbObjectId>;
   AcDbStub* m_stub = nullptr;
 };

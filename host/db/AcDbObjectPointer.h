@@ -4,7 +4,7 @@
 #include "host/db/AcDbDatabase.h"
 
 template <typename T> class AcDbObjectPointer {
-public:
+ public:
   AcDbObjectPointer() = default;
   AcDbObjectPointer(const AcDbObjectId& id, AcDb::OpenMode mode, bool openErased = false) {
     open(id, mode, openErased);
@@ -34,7 +34,7 @@ public:
   T* operator->() const { return m_object; }
   operator T*() const { return m_object; }
 
-private:
+ private:
   T* m_object = nullptr;
   Acad::ErrorStatus m_status = Acad::eNullObjectPointer;
 };

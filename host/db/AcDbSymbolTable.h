@@ -1,5 +1,5 @@
-// A symbol table: its records by name in O(1) and in the order of the file. The typed tables below differ only
-// in the class of their records.
+// A symbol table: its records by name in O(1) and in the order of the file. The typed tables below differ
+// only in the class of their records.
 #pragma once
 
 #include "host/db/AcDbObjectPointer.h"
@@ -13,7 +13,7 @@ class AcDbSymbolTableIterator;
 class AcDbSymbolTable : public AcDbObject {
   ACRX_DECLARE_MEMBERS(AcDbSymbolTable);
 
-public:
+ public:
   // eKeyNotFound when there is none, eWasErased when it is erased.
   Acad::ErrorStatus getAt(const wchar_t* name, AcDbObjectId& id, bool getErased = false) const;
   bool has(const wchar_t* name) const;
@@ -22,7 +22,8 @@ public:
   Acad::ErrorStatus add(AcDbSymbolTableRecord* record);
   Acad::ErrorStatus add(AcDbObjectId& id, AcDbSymbolTableRecord* record);
 
-  // --- for the database's own modules -----------------------------------------------------------------------
+  // --- for the database's own modules
+  // -----------------------------------------------------------------------
   const std::vector<AcDbObjectId>& records() const { return m_records; }
   // The record type of the entries, "LAYER".
   virtual std::string_view recordType() const { return m_recordType; }
@@ -33,10 +34,10 @@ public:
   void file(AcDbSymbolTableRecord& record);
   void nameChanged(AcDbSymbolTableRecord& record);
 
-protected:
+ protected:
   void dxfOutFields(DxfRecordEditor& editor) const override;
 
-private:
+ private:
   std::vector<AcDbObjectId> m_records;
   std::unordered_multimap<std::wstring, AcDbObjectId> m_byName; // folded; may hold names of before
   std::string m_recordType;
@@ -44,16 +45,17 @@ private:
 
 // Walks the records of a table in their order, erased ones skipped by default.
 class AcDbSymbolTableIterator {
-public:
+ public:
   explicit AcDbSymbolTableIterator(const AcDbSymbolTable& table);
   virtual ~AcDbSymbolTableIterator() = default;
   void start(bool atBeginning = true, bool skipErased = true);
   bool done() const { return m_at >= m_ids.size(); }
   void step(bool forward = true, bool skipErased = true);
   Acad::ErrorStatus getRecordId(AcDbObjectId& id) const;
-  Acad::ErrorStatus getRecord(AcDbSymbolTableRecord*& record, AcDb::OpenMode mode, bool openErased = false) const;
+  Acad::ErrorStatus getRecord(AcDbSymbolTableRecord*& record, AcDb::OpenMode mode,
+                              bool openErased = false) const;
 
-protected:
+ protected:
   template <typename Record>
   Acad::ErrorStatus getTypedRecord(Record*& record, AcDb::OpenMode mode, bool openErased) const {
     AcDbObjectId id;
@@ -62,7 +64,7 @@ protected:
     return acdbOpenObject(record, id, mode, openErased);
   }
 
-private:
+ private:
   void skip(bool forward, bool skipErased);
 
   std::vector<AcDbObjectId> m_ids;
@@ -71,7 +73,7 @@ private:
 
 // A table of one class of records, with the typed calls that siblings use.
 template <typename Record, typename Iterator> class AcDbTypedSymbolTable : public AcDbSymbolTable {
-public:
+ public:
   using AcDbSymbolTable::getAt;
   Acad::ErrorStatus getAt(const wchar_t* name, Record*& record, AcDb::OpenMode mode,
                           bool openErased = false) const {
@@ -91,7 +93,7 @@ public:
 
 #define ZP_SYMBOL_TABLE(STEM)                                                                                \
   class STEM##TableIterator : public AcDbSymbolTableIterator {                                               \
-  public:                                                                                                    \
+   public:                                                                                                   \
     using AcDbSymbolTableIterator::AcDbSymbolTableIterator;                                                  \
     using AcDbSymbolTableIterator::getRecord;                                                                \
     Acad::ErrorStatus getRecord(STEM##TableRecord*& record, AcDb::OpenMode mode, bool openErased = false) {  \

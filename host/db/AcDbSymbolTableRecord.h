@@ -6,7 +6,7 @@
 class AcDbSymbolTableRecord : public AcDbObject {
   ACRX_DECLARE_MEMBERS(AcDbSymbolTableRecord);
 
-public:
+ public:
   // The name without copying, for the host's own modules.
   const CString& name() const { return m_name; }
   Acad::ErrorStatus getName(CString& name) const;
@@ -17,11 +17,14 @@ public:
   int flags() const { return m_flags; }
   bool isDependent() const { return (m_flags & 16) != 0; }
 
+  // A name as a file has it, without the checks of setName, for the database's own modules.
+  void setNameAsRead(const CString& name);
+
   // Whether a name may stand in a table: not empty, no control character, none of <>/\":;?*=`,| and not over
   // 255 characters. Names that files already have are taken as they come.
   static bool isValidSymbolName(const CString& name);
 
-protected:
+ protected:
   void dxfInFields(DxfTags tags, const DxfDecodeContext& context) override;
   void dxfOutFields(DxfRecordEditor& editor) const override;
   // Head, table entry marker, own marker, name and flags, for derived classes to go on behind.
@@ -30,7 +33,7 @@ protected:
   void setFlag(int bit, bool on) { m_flags = on ? m_flags | bit : m_flags & ~bit; }
   bool flag(int bit) const { return (m_flags & bit) != 0; }
 
-private:
+ private:
   CString m_name;
   int m_flags = 0;
 };

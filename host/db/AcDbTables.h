@@ -1,5 +1,5 @@
-// The symbol tables beside layers and blocks: linetypes, text styles, registered applications, and those whose
-// entries the host keeps as they came (dimension styles, views, coordinate systems, viewports).
+// The symbol tables beside layers and blocks: linetypes, text styles, registered applications, and those
+// whose entries the host keeps as they came (dimension styles, views, coordinate systems, viewports).
 #pragma once
 
 #include "host/db/AcDbSymbolTable.h"
@@ -7,7 +7,7 @@
 class AcDbLinetypeTableRecord : public AcDbSymbolTableRecord {
   ACRX_DECLARE_MEMBERS(AcDbLinetypeTableRecord);
 
-public:
+ public:
   struct Dash {
     double length = 0; // drawing units; positive a dash, negative a gap, 0 a dot
   };
@@ -17,11 +17,11 @@ public:
   Acad::ErrorStatus setComments(const CString& comments);
   Acad::ErrorStatus setDashes(std::vector<Dash> dashes);
 
-protected:
+ protected:
   void dxfInFields(DxfTags tags, const DxfDecodeContext& context) override;
   void dxfOutFields(DxfRecordEditor& editor) const override;
 
-private:
+ private:
   CString m_comments;
   std::vector<Dash> m_dashes;
   bool m_complex = false; // shapes or text in it: the pattern is kept as it came
@@ -30,7 +30,7 @@ private:
 class AcDbTextStyleTableRecord : public AcDbSymbolTableRecord {
   ACRX_DECLARE_MEMBERS(AcDbTextStyleTableRecord);
 
-public:
+ public:
   double textSize() const { return m_textSize; } // 0: not fixed
   double xScale() const { return m_xScale; }
   const CString& fileName() const { return m_fileName; }
@@ -40,11 +40,11 @@ public:
   Acad::ErrorStatus setFileName(const CString& name);
   Acad::ErrorStatus setBigFontFileName(const CString& name);
 
-protected:
+ protected:
   void dxfInFields(DxfTags tags, const DxfDecodeContext& context) override;
   void dxfOutFields(DxfRecordEditor& editor) const override;
 
-private:
+ private:
   double m_textSize = 0;
   double m_xScale = 1;
   CString m_fileName = L"txt";
@@ -54,14 +54,14 @@ private:
 class AcDbRegAppTableRecord : public AcDbSymbolTableRecord {
   ACRX_DECLARE_MEMBERS(AcDbRegAppTableRecord);
 
-protected:
+ protected:
   void dxfOutFields(DxfRecordEditor& editor) const override;
 };
 
 class AcDbDimStyleTableRecord : public AcDbSymbolTableRecord {
   ACRX_DECLARE_MEMBERS(AcDbDimStyleTableRecord);
 
-protected:
+ protected:
   void dxfOutFields(DxfRecordEditor& editor) const override;
 };
 

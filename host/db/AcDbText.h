@@ -8,13 +8,13 @@
 class AcDbText : public AcDbEntity {
   ACRX_DECLARE_MEMBERS(AcDbText);
 
-public:
+ public:
   CString textString() const;
   Acad::ErrorStatus setTextString(const CString& text);
   AcGePoint3d position() const; // world
   Acad::ErrorStatus setPosition(const AcGePoint3d& position);
   double height() const { return m_height; }
-  Acad::ErrorStatus setHeight(double height); // above 0, eInvalidInput otherwise
+  Acad::ErrorStatus setHeight(double height);    // above 0, eInvalidInput otherwise
   double rotation() const { return m_rotation; } // radians
   Acad::ErrorStatus setRotation(double angle);
   double widthFactor() const { return m_widthFactor; }
@@ -23,11 +23,11 @@ public:
   void worldDraw(AcGiWorldDraw& draw) const override;
   Acad::ErrorStatus transformBy(const AcGeMatrix3d& matrix) override;
 
-protected:
+ protected:
   void dxfInFields(DxfTags tags, const DxfDecodeContext& context) override;
   void dxfOutFields(DxfRecordEditor& editor) const override;
 
-private:
+ private:
   AcGePoint3d m_position; // in the system of the normal
   std::optional<AcGePoint3d> m_alignment;
   AcGeVector3d m_normal{0, 0, 1};

@@ -13,7 +13,7 @@
 class AcDbEntity;
 
 class AcGiWorldDraw {
-public:
+ public:
   virtual ~AcGiWorldDraw() = default;
 
   // An entity's drawing begins and ends; nested for the contents of insertions. What is not drawn (its layer
@@ -23,8 +23,8 @@ public:
 
   virtual void point(const AcGePoint3d& at) = 0;
   virtual void polyline(std::span<const AcGePoint3d> points) = 0;
-  // A circular arc, anticlockwise about normal from startAngle by sweep (radians, above 0, 2 pi for a circle);
-  // angles count from xAxis, which lies in the plane and has length 1.
+  // A circular arc, anticlockwise about normal from startAngle by sweep (radians, above 0, 2 pi for a
+  // circle); angles count from xAxis, which lies in the plane and has length 1.
   virtual void circularArc(const AcGePoint3d& centre, double radius, const AcGeVector3d& normal,
                            const AcGeVector3d& xAxis, double startAngle, double sweep) = 0;
   // A line of text at its insertion point; direction and normal have length 1, height in drawing units.

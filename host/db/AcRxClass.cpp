@@ -50,4 +50,6 @@ AcRxClass* AcRxObject::desc() {
   return &descriptor;
 }
 
-AcRxClass* AcRxObject::isA() const { return desc(); }
+AcRxClass* AcRxObject::isA() const {
+  return desc();
+}

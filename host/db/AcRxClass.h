@@ -7,7 +7,7 @@
 class AcRxObject;
 
 class AcRxClass {
-public:
+ public:
   using Creator = AcRxObject* (*)();
   using BaseGetter = AcRxClass* (*)();
 
@@ -28,7 +28,7 @@ public:
   static AcRxClass* findByDxfName(std::string_view dxfName);
   static AcRxClass* findByName(std::wstring_view name);
 
-private:
+ private:
   const wchar_t* m_name;
   BaseGetter m_base;
   const char* m_dxfName;

@@ -5,7 +5,7 @@
 #include "host/db/AcRxClass.h"
 
 class AcRxObject {
-public:
+ public:
   AcRxObject() = default;
   AcRxObject(const AcRxObject&) = default;
   AcRxObject& operator=(const AcRxObject&) = default;
@@ -16,27 +16,36 @@ public:
   bool isKindOf(const AcRxClass* type) const { return isA()->isDerivedFrom(type); }
 };
 
-// In the class: ACRX_DECLARE_MEMBERS(AcDbLine); in the source: ACRX_DXF_DEFINE_MEMBERS(AcDbLine, AcDbCurve, "LINE")
-// for classes that are made when a file is read, ACRX_NO_CONS_DEFINE_MEMBERS(AcDbCurve, AcDbEntity) for the others.
+// In the class: ACRX_DECLARE_MEMBERS(AcDbLine); in the source: ACRX_DXF_DEFINE_MEMBERS(AcDbLine, AcDbCurve,
+// "LINE") for classes that are made when a file is read, ACRX_NO_CONS_DEFINE_MEMBERS(AcDbCurve, AcDbEntity)
+// for the others.
 #define ACRX_DECLARE_MEMBERS(CLASS)                                                                          \
-public:                                                                                                      \
+ public:                                                                                                     \
   static AcRxClass* desc();                                                                                  \
   AcRxClass* isA() const override;                                                                           \
   static CLASS* cast(const AcRxObject* object) {                                                             \
-    return object && object->isKindOf(CLASS::desc())                                                         \
-               ? static_cast<CLASS*>(const_cast<AcRxObject*>(object))                                        \
-               : nullptr;                                                                                    \
+    return object && object->isKindOf(CLASS::desc()) ? static_cast<CLASS*>(const_cast<AcRxObject*>(object))  \
+                                                     : nullptr;                                              \
   }                                                                                                          \
                                                                                                              \
-private:                                                                                                     \
+ private:                                                                                                    \
   static AcRxClass s_class
 
 #define ACRX_NO_CONS_DEFINE_MEMBERS(CLASS, BASE)                                                             \
   AcRxClass CLASS::s_class(L"" #CLASS, &BASE::desc, "", nullptr);                                            \
-  AcRxClass* CLASS::desc() { return &s_class; }                                                              \
-  AcRxClass* CLASS::isA() const { return &s_class; }
+  AcRxClass* CLASS::desc() {                                                                                 \
+    return &s_class;                                                                                         \
+  }                                                                                                          \
+  AcRxClass* CLASS::isA() const {                                                                            \
+    return &s_class;                                                                                         \
+  }
 
 #define ACRX_DXF_DEFINE_MEMBERS(CLASS, BASE, DXF_NAME)                                                       \
-  AcRxClass CLASS::s_class(L"" #CLASS, &BASE::desc, DXF_NAME, +[]() -> AcRxObject* { return new CLASS; });   \
-  AcRxClass* CLASS::desc() { return &s_class; }                                                              \
-  AcRxClass* CLASS::isA() const { return &s_class; }
+  AcRxClass CLASS::s_class(                                                                                  \
+      L"" #CLASS, &BASE::desc, DXF_NAME, +[]() -> AcRxObject* { return new CLASS; });                        \
+  AcRxClass* CLASS::desc() {                                                                                 \
+    return &s_class;                                                                                         \
+  }                                                                                                          \
+  AcRxClass* CLASS::isA() const {                                                                            \
+    return &s_class;                                                                                         \
+  }

@@ -18,8 +18,8 @@ struct DrawingForm {
   bool utf8 = true;
   std::string codePage = "ANSI_936";
 
-  // The sections in the order of the file. Text that belongs to no record (comments ahead of the first record,
-  // a whole section that the host doesn't know) is kept as it stood.
+  // The sections in the order of the file. Text that belongs to no record (comments ahead of the first
+  // record, a whole section that the host doesn't know) is kept as it stood.
   struct Section {
     std::string name;
     DxfRecord head; // from "0 SECTION" to the first record
@@ -27,9 +27,9 @@ struct DrawingForm {
     DxfRecord tail; // from "0 ENDSEC" to the next section
   };
   std::vector<Section> sections;
-  DxfRecord preamble;              // ahead of the first section
-  DxfRecord eof;                   // "0 EOF" and what follows it
-  std::vector<DxfRecord> classes;  // the records of CLASSES
+  DxfRecord preamble;                   // ahead of the first section
+  DxfRecord eof;                        // "0 EOF" and what follows it
+  std::vector<DxfRecord> classes;       // the records of CLASSES
   std::vector<AcDbObjectId> blockOrder; // block records in the order of their BLOCKs
 
   bool subclassMarkers() const { return version > "AC1009"; }

@@ -1,5 +1,5 @@
-// What decoding a record needs beside its tags: the drawing in which names and handles are looked up, and where
-// to report what had to be repaired.
+// What decoding a record needs beside its tags: the drawing in which names and handles are looked up, and
+// where to report what had to be repaired.
 #pragma once
 
 #include "host/afx/CString.h"
@@ -11,7 +11,7 @@
 #include <unordered_map>
 
 class DxfDecodeContext {
-public:
+ public:
   explicit DxfDecodeContext(AcDbDatabase& database) : m_database(database) {}
   virtual ~DxfDecodeContext() = default;
 
@@ -32,7 +32,7 @@ public:
   // Tells of a repair at a tag. The default writes to the message log.
   virtual void repaired(const DxfTag& tag, const CString& what) const;
 
-private:
+ private:
   struct Hash {
     using is_transparent = void;
     std::size_t operator()(std::string_view s) const { return std::hash<std::string_view>{}(s); }

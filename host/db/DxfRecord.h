@@ -9,7 +9,7 @@
 #include <string_view>
 
 class DxfRecord {
-public:
+ public:
   DxfRecord() = default;
 
   // A record with a text of its own.
@@ -26,7 +26,7 @@ public:
   // Memory that this record alone accounts for (nothing for a part of a larger text).
   std::size_t ownBytes() const;
 
-private:
+ private:
   std::shared_ptr<const std::string> m_source;
   std::string_view m_text;
 };

@@ -18,12 +18,12 @@ bool isGroupStart(int code, std::string_view value) {
 DxfRecordEditor::DxfRecordEditor(const DxfRecord& base, bool subclassMarkers)
     : m_base(base), m_markers(subclassMarkers) {
   const std::string_view text = base.text();
-  std::string_view rest = text;
   const char* start = text.data();
   for (const DxfTag& tag : base.tags()) {
     const char* end = tag.value.data() + tag.value.size();
     if (end < text.data() + text.size()) ++end; // the line feed
-    m_items.push_back({tag.code, {}, tag.value, std::string_view(start, static_cast<std::size_t>(end - start))});
+    m_items.push_back(
+        {tag.code, {}, tag.value, std::string_view(start, static_cast<std::size_t>(end - start))});
     start = end;
     m_hasMarkers = m_hasMarkers || tag.code == 100;
   }
@@ -106,7 +106,9 @@ void DxfRecordEditor::put(int code, std::string value) {
   ++m_end;
 }
 
-void DxfRecordEditor::text(int code, std::string_view value) { put(code, std::string(value)); }
+void DxfRecordEditor::text(int code, std::string_view value) {
+  put(code, std::string(value));
+}
 
 void DxfRecordEditor::text(int code, const CString& value) {
   const std::size_t at = find(code);
@@ -143,6 +145,11 @@ void DxfRecordEditor::real(int code, double value) {
     return;
   }
   put(code, afx::ShortestDouble(value));
+}
+
+std::optional<double> DxfRecordEditor::realAt(int code) const {
+  const std::size_t at = find(code);
+  return at == npos || m_items[at].raw.empty() ? std::nullopt : dxf::toReal(m_items[at].value);
 }
 
 void DxfRecordEditor::point(int code, const AcGePoint3d& value) {
@@ -196,6 +203,12 @@ void DxfRecordEditor::vector(int code, const AcGeVector3d& value, const AcGeVect
 
 void DxfRecordEditor::handle(int code, AcDbHandle value, AcDbHandle absent) {
   if (find(code) != npos || value != absent) handle(code, value);
+}
+
+void DxfRecordEditor::closingMarker(std::string_view name) {
+  m_items.insert(m_items.begin() + static_cast<std::ptrdiff_t>(m_end), {100, tag(100, name), {}, {}});
+  m_begin = m_cursor = m_end + 1;
+  endOfScope();
 }
 
 void DxfRecordEditor::remove(int code) {
@@ -258,8 +271,8 @@ void DxfRecordEditor::group(std::string_view name, const std::string& innerTags)
 void DxfRecordEditor::extendedData(std::string_view application, const std::string& tags) {
   const std::string whole = tags.empty() ? std::string() : tag(1001, application) + tags;
   for (std::size_t i = 0; i < m_items.size(); ++i) {
-    if (m_items[i].code != 1001 || dxf::decodeText(dxf::trimBlanks(m_items[i].value))
-                                           .CompareNoCase(dxf::decodeText(application)) != 0)
+    if (m_items[i].code != 1001 ||
+        dxf::decodeText(dxf::trimBlanks(m_items[i].value)).CompareNoCase(dxf::decodeText(application)) != 0)
       continue;
     std::size_t end = i + 1;
     while (end < m_items.size() && m_items[end].code >= 1000 && m_items[end].code != 1001) ++end;
@@ -270,6 +283,11 @@ void DxfRecordEditor::extendedData(std::string_view application, const std::stri
     return;
   }
   if (!whole.empty()) m_items.push_back({1001, whole, {}, {}});
+}
+
+void DxfRecordEditor::replaceAll(std::string text) {
+  m_items.clear();
+  m_items.push_back({0, std::move(text), {}, {}});
 }
 
 DxfRecord DxfRecordEditor::finish() {
@@ -297,4 +315,6 @@ std::string DxfRecordEditor::tag(int code, std::string_view value) {
   return line;
 }
 
-std::string DxfRecordEditor::realTag(int code, double value) { return tag(code, afx::ShortestDouble(value)); }
+std::string DxfRecordEditor::realTag(int code, double value) {
+  return tag(code, afx::ShortestDouble(value));
+}

@@ -8,8 +8,10 @@
 #include "host/ge/AcGePoint3d.h"
 #include "host/ge/AcGeVector3d.h"
 
+#include <optional>
+
 class DxfRecordEditor {
-public:
+ public:
   // subclassMarkers: whether the drawing's version has them (R13 and later).
   DxfRecordEditor(const DxfRecord& base, bool subclassMarkers);
 
@@ -39,6 +41,12 @@ public:
   void handle(int code, AcDbHandle value, AcDbHandle absent);
   void name(int code, const CString& value, const wchar_t* absent);
 
+  // The number that stands under the code now.
+  std::optional<double> realAt(int code) const;
+
+  // Adds a marker behind everything of this scope, for classes whose records end with a second one.
+  void closingMarker(std::string_view name);
+
   // Takes a field away.
   void remove(int code);
   // Replaces the run of tags from the first to the last in this scope whose codes are among codes.
@@ -48,13 +56,16 @@ public:
   // Replaces the extended data of one application, appends it, or removes it when tags is empty.
   void extendedData(std::string_view application, const std::string& tags);
 
+  // Gives the record this text, for objects whose data are tags themselves.
+  void replaceAll(std::string text);
+
   DxfRecord finish();
 
   // "code LF value LF", padded as files usually are.
   static std::string tag(int code, std::string_view value);
   static std::string realTag(int code, double value);
 
-private:
+ private:
   struct Item {
     int code;
     std::string text; // of a new or changed tag

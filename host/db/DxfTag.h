@@ -30,12 +30,12 @@ std::string_view trimBlanks(std::string_view value);
 
 // Walks the tags of a record's text.
 class DxfTagReader {
-public:
+ public:
   explicit DxfTagReader(std::string_view text) : m_rest(text) {}
   // False at the end, and at a code line that is no integer (a record in memory never has one).
   bool next(DxfTag& tag);
 
-private:
+ private:
   std::string_view m_rest;
 };
 

@@ -39,7 +39,8 @@ CString dxf::decodeText(std::string_view value) {
       if (const auto code = hexNumber(rest.substr(3, 4))) {
         flush(i);
         // Two escapes may spell one character above U+FFFF.
-        const bool high = *code >= 0xD800 && *code < 0xDC00 && rest.size() >= 14 && rest.substr(7, 3) == "\\U+";
+        const bool high =
+            *code >= 0xD800 && *code < 0xDC00 && rest.size() >= 14 && rest.substr(7, 3) == "\\U+";
         const auto low = high ? hexNumber(rest.substr(10, 4)) : std::nullopt;
         const bool pair = low && *low >= 0xDC00 && *low < 0xE000;
         text += pair ? static_cast<wchar_t>(0x10000 + ((*code - 0xD800) << 10) + (*low - 0xDC00))

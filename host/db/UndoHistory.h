@@ -13,7 +13,7 @@
 #include <vector>
 
 class UndoHistory {
-public:
+ public:
   explicit UndoHistory(AcDbDatabase& database) : m_database(database) {}
 
   // Commands may nest: only the outermost counts. A command without changes leaves no trace.
@@ -40,7 +40,7 @@ public:
   void recordBefore(AcDbObject& object);
   void recordAppended(AcDbObject& object);
 
-private:
+ private:
   struct Change {
     AcDbObjectId id;
     DxfRecord record;

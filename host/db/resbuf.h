@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <utility>
 
 struct ads_binary {
   short clen;
@@ -61,15 +62,16 @@ using ResbufPtr = std::unique_ptr<resbuf, ResbufDeleter>;
 
 // Builds a chain by appending.
 class ResbufBuilder {
-public:
+ public:
   ResbufBuilder& text(int type, const CString& value);
   ResbufBuilder& integer(int type, std::int64_t value);
   ResbufBuilder& real(int type, double value);
   ResbufBuilder& point(int type, double x, double y, double z);
+  ResbufBuilder& binary(int type, const ads_binary& value); // takes the bytes over
   ResbufPtr take() { return std::move(m_head); }
   const resbuf* chain() const { return m_head.get(); }
 
-private:
+ private:
   resbuf* append(int type);
   ResbufPtr m_head;
   resbuf* m_tail = nullptr;

@@ -1,5 +1,5 @@
-// Drawings from and to files. Reading fills an empty database; writing gives back every tag that was read, and
-// what was changed in its place.
+// Drawings from and to files. Reading fills an empty database; writing gives back every tag that was read,
+// and what was changed in its place.
 #pragma once
 
 #include "host/afx/CString.h"
@@ -29,7 +29,7 @@ struct ReadOptions {
 
 struct ReadReport {
   bool ok = false;
-  CString error;             // names the file, and line and group where there are any; empty when ok
+  CString error; // names the file, and line and group where there are any; empty when ok
   std::vector<Repair> repairs;
 };
 

@@ -1,0 +1,81 @@
+#include "host/db/AcDbBlockMarks.h"
+
+#include "host/db/AcDbBlockTable.h"
+#include "host/db/DxfDecodeContext.h"
+#include "host/db/DxfRecordEditor.h"
+#include "host/db/DxfText.h"
+
+ACRX_DXF_DEFINE_MEMBERS(AcDbBlockBegin, AcDbEntity, "BLOCK")
+ACRX_DXF_DEFINE_MEMBERS(AcDbBlockEnd, AcDbEntity, "ENDBLK")
+
+namespace {
+
+CString blockNameOf(const AcDbObject& mark) {
+  const auto* block = AcDbBlockTableRecord::cast(mark.ownerId().object());
+  return block ? block->name() : CString();
+}
+
+} // namespace
+
+Acad::ErrorStatus AcDbBlockBegin::setBasePoint(const AcGePoint3d& point) {
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  m_basePoint = point;
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbBlockBegin::setFlags(int flags) {
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  m_flags = flags;
+  return Acad::eOk;
+}
+
+CString AcDbBlockBegin::xrefPath() const {
+  for (const DxfTag& tag : dxfOwnTags(record().tags()))
+    if (tag.code == 1) return dxf::decodeText(tag.value);
+  return {};
+}
+
+CString AcDbBlockBegin::nameIn(DxfTags tags) {
+  for (const DxfTag& tag : dxfOwnTags(tags))
+    if (tag.code == 2) return dxf::decodeText(dxf::trimBlanks(tag.value));
+  return {};
+}
+
+void AcDbBlockBegin::dxfInFields(DxfTags tags, const DxfDecodeContext& context) {
+  AcDbEntity::dxfInFields(tags, context);
+  m_basePoint = {};
+  m_flags = 0;
+  for (const DxfTag& tag : dxfOwnTags(tags)) {
+    switch (tag.code) {
+    case 10:
+      m_basePoint.x = context.real(tag);
+      break;
+    case 20:
+      m_basePoint.y = context.real(tag);
+      break;
+    case 30:
+      m_basePoint.z = context.real(tag);
+      break;
+    case 70:
+      m_flags = static_cast<int>(context.integer(tag));
+      break;
+    default:
+      break;
+    }
+  }
+}
+
+void AcDbBlockBegin::dxfOutFields(DxfRecordEditor& editor) const {
+  AcDbEntity::dxfOutFields(editor);
+  editor.subclass("AcDbBlockBegin");
+  editor.name(2, blockNameOf(*this));
+  editor.integer(70, m_flags);
+  editor.point(10, m_basePoint);
+  editor.name(3, blockNameOf(*this));
+  if (rawRecord().isEmpty()) editor.text(1, CString());
+}
+
+void AcDbBlockEnd::dxfOutFields(DxfRecordEditor& editor) const {
+  AcDbEntity::dxfOutFields(editor);
+  editor.subclass("AcDbBlockEnd");
+}

@@ -1,0 +1,182 @@
+#include "host/db/AcDbBlockReference.h"
+
+#include "host/db/AcDbBlockTable.h"
+#include "host/db/AcDbObjectPointer.h"
+#include "host/db/AcGiWorldDraw.h"
+#include "host/db/DxfDecodeContext.h"
+#include "host/db/DxfRecordEditor.h"
+#include "host/db/EntityMath.h"
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+ACRX_DXF_DEFINE_MEMBERS(AcDbBlockReference, AcDbEntity, "INSERT")
+
+namespace {
+
+// Blocks that are being drawn now: a file may hold a block that contains itself.
+thread_local std::vector<AcDbObjectId> t_drawing;
+
+constexpr int kMaxCopiesDrawn = 10000; // of one insertion in rows and columns
+
+} // namespace
+
+AcGePoint3d AcDbBlockReference::position() const {
+  return entity::toWorld(m_position, m_normal);
+}
+
+Acad::ErrorStatus AcDbBlockReference::setPosition(const AcGePoint3d& position) {
+  if (!entity::isFinite(position)) return Acad::eInvalidInput;
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  m_position = entity::toObject(position, m_normal);
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbBlockReference::setRotation(double angle) {
+  if (!std::isfinite(angle)) return Acad::eInvalidInput;
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  m_rotation = angle;
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbBlockReference::setScaleFactors(const AcGeVector3d& scale) {
+  if (!entity::isFinite(scale) || scale.x == 0 || scale.y == 0 || scale.z == 0) return Acad::eInvalidInput;
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  m_scale = scale;
+  return Acad::eOk;
+}
+
+AcGeMatrix3d AcDbBlockReference::blockTransform() const {
+  const auto* block = AcDbBlockTableRecord::cast(m_block.object());
+  AcGeMatrix3d scaling;
+  scaling.entry[0][0] = m_scale.x;
+  scaling.entry[1][1] = m_scale.y;
+  scaling.entry[2][2] = m_scale.z;
+  const AcGePoint3d origin = block ? block->origin() : AcGePoint3d();
+  return AcGeMatrix3d::planeToWorld(m_normal) * AcGeMatrix3d::translation(m_position.asVector()) *
+         AcGeMatrix3d::rotation(m_rotation, AcGeVector3d(0, 0, 1)) * scaling *
+         AcGeMatrix3d::translation(-origin.asVector());
+}
+
+void AcDbBlockReference::worldDraw(AcGiWorldDraw& draw) const {
+  const auto* block = AcDbBlockTableRecord::cast(m_block.object());
+  if (!block || std::find(t_drawing.begin(), t_drawing.end(), m_block) != t_drawing.end()) return;
+  t_drawing.push_back(m_block);
+  const AcGeMatrix3d transform = blockTransform();
+  int copies = 0;
+  for (int row = 0; row < m_rows; ++row) {
+    for (int column = 0; column < m_columns && copies < kMaxCopiesDrawn; ++column, ++copies) {
+      const AcGeVector3d offset = AcGeMatrix3d::planeToWorld(m_normal) *
+                                  (AcGeMatrix3d::rotation(m_rotation, AcGeVector3d(0, 0, 1)) *
+                                   AcGeVector3d(column * m_columnSpacing, row * m_rowSpacing, 0));
+      draw.pushModelTransform(AcGeMatrix3d::translation(offset) * transform);
+      for (const AcDbObjectId& id : block->entities()) {
+        const auto* inner = AcDbEntity::cast(id.object());
+        if (!inner || inner->isErased() || !draw.beginEntity(*inner)) continue;
+        inner->worldDraw(draw);
+        draw.endEntity(*inner);
+      }
+      draw.popModelTransform();
+    }
+  }
+  t_drawing.pop_back();
+  for (const AcDbObjectId& id : subEntities()) {
+    const auto* attribute = AcDbEntity::cast(id.object());
+    if (!attribute || attribute->isErased() || !draw.beginEntity(*attribute)) continue;
+    attribute->worldDraw(draw);
+    draw.endEntity(*attribute);
+  }
+}
+
+Acad::ErrorStatus AcDbBlockReference::transformBy(const AcGeMatrix3d& matrix) {
+  if (!matrix.isUniScaledOrtho()) return Acad::eCannotScaleNonUniformly;
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  const AcGePoint3d moved = matrix * position();
+  const AcGeMatrix3d turn =
+      AcGeMatrix3d::planeToWorld(m_normal) * AcGeMatrix3d::rotation(m_rotation, AcGeVector3d(0, 0, 1));
+  const AcGeVector3d direction = matrix * (turn * AcGeVector3d(1, 0, 0));
+  m_normal = entity::transformedNormal(m_normal, matrix);
+  m_position = entity::toObject(moved, m_normal);
+  const AcGeVector3d x = entity::xAxis(m_normal);
+  m_rotation = std::atan2(direction.dotProduct(m_normal.crossProduct(x)), direction.dotProduct(x));
+  m_scale *= matrix.scale();
+  // A reflection keeps the normal's side and turns the block's y axis over.
+  if (matrix.det() < 0) m_scale.y = -m_scale.y;
+  for (const AcDbObjectId& id : subEntities()) {
+    AcDbObjectPointer<AcDbEntity> attribute(id, AcDb::kForWrite);
+    if (attribute) attribute->transformBy(matrix);
+  }
+  return Acad::eOk;
+}
+
+void AcDbBlockReference::dxfInFields(DxfTags tags, const DxfDecodeContext& context) {
+  AcDbEntity::dxfInFields(tags, context);
+  m_position = {};
+  m_normal = {0, 0, 1};
+  m_scale = {1, 1, 1};
+  m_rotation = m_columnSpacing = m_rowSpacing = 0;
+  m_block.setNull();
+  m_columns = m_rows = 1;
+  const entity::FieldScope scope(tags);
+  for (const DxfTag& tag : scope) {
+    switch (tag.code) {
+    case 2:
+      m_block = context.block(tag.value);
+      break;
+    case 10:
+      m_position.x = context.real(tag);
+      break;
+    case 20:
+      m_position.y = context.real(tag);
+      break;
+    case 30:
+      m_position.z = context.real(tag);
+      break;
+    case 41:
+      m_scale.x = context.real(tag, 1.0);
+      break;
+    case 42:
+      m_scale.y = context.real(tag, 1.0);
+      break;
+    case 43:
+      m_scale.z = context.real(tag, 1.0);
+      break;
+    case 44:
+      m_columnSpacing = context.real(tag);
+      break;
+    case 45:
+      m_rowSpacing = context.real(tag);
+      break;
+    case 50:
+      m_rotation = entity::fromDegrees(context.real(tag));
+      break;
+    case 70:
+      m_columns = static_cast<int>(std::clamp<long long>(context.integer(tag, 1), 0, 32767));
+      break;
+    case 71:
+      m_rows = static_cast<int>(std::clamp<long long>(context.integer(tag, 1), 0, 32767));
+      break;
+    default:
+      entity::readVector(tag, 210, m_normal, context);
+      break;
+    }
+  }
+}
+
+void AcDbBlockReference::dxfOutFields(DxfRecordEditor& editor) const {
+  AcDbEntity::dxfOutFields(editor);
+  editor.subclass("AcDbBlockReference");
+  if (rawRecord().isEmpty() && !subEntities().empty()) editor.integer(66, 1);
+  if (const auto* block = AcDbSymbolTableRecord::cast(m_block.object())) editor.name(2, block->name());
+  editor.point(10, m_position);
+  editor.real(41, m_scale.x, 1.0);
+  editor.real(42, m_scale.y, 1.0);
+  editor.real(43, m_scale.z, 1.0);
+  entity::writeDegrees(editor, 50, m_rotation, true);
+  editor.integer(70, m_columns, 1);
+  editor.integer(71, m_rows, 1);
+  editor.real(44, m_columnSpacing, 0.0);
+  editor.real(45, m_rowSpacing, 0.0);
+  editor.vector(210, m_normal, {0, 0, 1});
+}

@@ -1,0 +1,321 @@
+#include "host/db/AcDbDatabase.h"
+
+#include "host/db/AcDbBlockTable.h"
+#include "host/db/AcDbDatabaseReactor.h"
+#include "host/db/AcDbDictionary.h"
+#include "host/db/AcDbLayerTable.h"
+#include "host/db/AcDbTables.h"
+#include "host/db/DxfDecodeContext.h"
+#include "host/db/DxfRecordEditor.h"
+#include "host/db/DxfText.h"
+
+#include <algorithm>
+
+bool AcDbObjectId::isErased() const {
+  return m_stub && m_stub->object && m_stub->object->isErased();
+}
+
+AcDbHostApplicationServices* acdbHostApplicationServices() {
+  static AcDbHostApplicationServices services;
+  return &services;
+}
+
+AcDbDatabase::AcDbDatabase(bool buildDefaultDrawing) : m_undo(std::make_unique<UndoHistory>(*this)) {
+  m_header = new AcDbHeader;
+  // The header is an object so that undo covers it, but it has no handle of the drawing's: it is filed under
+  // 0.
+  m_stubs.push_back({AcDbHandle(), this, m_header});
+  m_header->setStub(&m_stubs.back());
+  createTables();
+  if (buildDefaultDrawing) completeStandardEntries();
+}
+
+AcDbDatabase::~AcDbDatabase() {
+  for (AcDbDatabaseReactor* reactor : std::vector(m_reactors)) reactor->goodbye(this);
+  if (acdbHostApplicationServices()->workingDatabase() == this)
+    acdbHostApplicationServices()->setWorkingDatabase(nullptr);
+  for (AcDbStub& stub : m_stubs) {
+    delete stub.object;
+    stub.object = nullptr;
+  }
+}
+
+// --- symbol tables
+// ---------------------------------------------------------------------------------------------
+
+template <typename Table> AcDbObjectId AcDbDatabase::tableId() const {
+  for (const AcDbObjectId& id : m_tables)
+    if (id.object()->isKindOf(Table::desc())) return id;
+  return {};
+}
+
+template <typename Table> Acad::ErrorStatus AcDbDatabase::openTable(Table*& table, AcDb::OpenMode mode) {
+  return acdbOpenObject(table, tableId<Table>(), mode);
+}
+
+Acad::ErrorStatus AcDbDatabase::getSymbolTable(AcDbBlockTable*& table, AcDb::OpenMode mode) {
+  return openTable(table, mode);
+}
+Acad::ErrorStatus AcDbDatabase::getSymbolTable(AcDbDimStyleTable*& table, AcDb::OpenMode mode) {
+  return openTable(table, mode);
+}
+Acad::ErrorStatus AcDbDatabase::getSymbolTable(AcDbLayerTable*& table, AcDb::OpenMode mode) {
+  return openTable(table, mode);
+}
+Acad::ErrorStatus AcDbDatabase::getSymbolTable(AcDbLinetypeTable*& table, AcDb::OpenMode mode) {
+  return openTable(table, mode);
+}
+Acad::ErrorStatus AcDbDatabase::getSymbolTable(AcDbRegAppTable*& table, AcDb::OpenMode mode) {
+  return openTable(table, mode);
+}
+Acad::ErrorStatus AcDbDatabase::getSymbolTable(AcDbTextStyleTable*& table, AcDb::OpenMode mode) {
+  return openTable(table, mode);
+}
+
+AcDbObjectId AcDbDatabase::blockTableId() const {
+  return tableId<AcDbBlockTable>();
+}
+AcDbObjectId AcDbDatabase::dimStyleTableId() const {
+  return tableId<AcDbDimStyleTable>();
+}
+AcDbObjectId AcDbDatabase::layerTableId() const {
+  return tableId<AcDbLayerTable>();
+}
+AcDbObjectId AcDbDatabase::linetypeTableId() const {
+  return tableId<AcDbLinetypeTable>();
+}
+AcDbObjectId AcDbDatabase::regAppTableId() const {
+  return tableId<AcDbRegAppTable>();
+}
+AcDbObjectId AcDbDatabase::textStyleTableId() const {
+  return tableId<AcDbTextStyleTable>();
+}
+
+AcDbSymbolTable* AcDbDatabase::tableOf(std::string_view type) const {
+  for (const AcDbObjectId& id : m_tables) {
+    auto* table = static_cast<AcDbSymbolTable*>(id.object());
+    if (table->recordType() == type) return table;
+  }
+  return nullptr;
+}
+
+namespace {
+
+template <typename T> AcDbSymbolTable* makeTable() {
+  return new T;
+}
+
+struct TableKind {
+  const char* recordType;
+  AcDbSymbolTable* (*make)();
+};
+
+// In the order in which a file has them.
+constexpr TableKind kTables[] = {
+    {"VPORT", makeTable<AcDbViewportTable>},     {"LTYPE", makeTable<AcDbLinetypeTable>},
+    {"LAYER", makeTable<AcDbLayerTable>},        {"STYLE", makeTable<AcDbTextStyleTable>},
+    {"VIEW", makeTable<AcDbViewTable>},          {"UCS", makeTable<AcDbUCSTable>},
+    {"APPID", makeTable<AcDbRegAppTable>},       {"DIMSTYLE", makeTable<AcDbDimStyleTable>},
+    {"BLOCK_RECORD", makeTable<AcDbBlockTable>},
+};
+
+AcDbObjectId findRecord(const AcDbSymbolTable* table, const wchar_t* name) {
+  AcDbObjectId id;
+  if (table) table->getAt(name, id);
+  return id;
+}
+
+template <typename Record> AcDbObjectId addStandard(AcDbDatabase& db, const char* type, const wchar_t* name) {
+  AcDbSymbolTable* table = db.tableOf(type);
+  auto* record = new Record;
+  db.addAcDbObject(record, table->objectId());
+  record->setNameAsRead(name);
+  record->setImplicit(true);
+  table->file(*record);
+  record->close();
+  return record->objectId();
+}
+
+} // namespace
+
+// Tables without a record of their own, which a reader gives them as it meets them.
+void AcDbDatabase::createTables() {
+  for (const TableKind& kind : kTables) {
+    AcDbSymbolTable* table = kind.make();
+    table->setRecordType(kind.recordType);
+    m_stubs.push_back({AcDbHandle(), this, table});
+    table->setStub(&m_stubs.back());
+    table->setImplicit(true);
+    m_tables.push_back(table->objectId());
+  }
+}
+
+AcDbObjectId AcDbDatabase::modelSpaceId() const {
+  return findRecord(tableOf("BLOCK_RECORD"), ACDB_MODEL_SPACE);
+}
+AcDbObjectId AcDbDatabase::paperSpaceId() const {
+  return findRecord(tableOf("BLOCK_RECORD"), ACDB_PAPER_SPACE);
+}
+
+Acad::ErrorStatus AcDbDatabase::registerApplication(const CString& name) {
+  AcDbObjectPointer<AcDbRegAppTable> table(regAppTableId(), AcDb::kForWrite);
+  if (!table) return table.openStatus();
+  if (table->has(name)) return Acad::eOk;
+  auto* record = new AcDbRegAppTableRecord;
+  auto status = record->setName(name);
+  if (status == Acad::eOk) status = table->add(record);
+  if (status == Acad::eOk)
+    record->close();
+  else
+    delete record;
+  return status;
+}
+
+std::vector<CString> AcDbDatabase::completeStandardEntries() {
+  std::vector<CString> added;
+  // Tables first: a handle of their own before those of their entries.
+  for (const AcDbObjectId& id : m_tables) {
+    auto* stub = id.object();
+    if (!stub->handle().isNull()) continue;
+    for (AcDbStub& entry : m_stubs) {
+      if (entry.object != stub) continue;
+      entry.handle = AcDbHandle(m_nextHandle++);
+      m_byHandle[entry.handle.value()] = &entry;
+      break;
+    }
+  }
+  const auto ensure = [&](const char* type, const wchar_t* name, auto make) {
+    if (!findRecord(tableOf(type), name).isNull()) return;
+    make(*this, type, name);
+    CString what;
+    what.Format(L"%s %s", CString::FromUtf8(type), name);
+    added.push_back(what);
+  };
+  ensure("LTYPE", L"ByBlock", addStandard<AcDbLinetypeTableRecord>);
+  ensure("LTYPE", L"ByLayer", addStandard<AcDbLinetypeTableRecord>);
+  ensure("LTYPE", L"Continuous", addStandard<AcDbLinetypeTableRecord>);
+  ensure("LAYER", L"0", addStandard<AcDbLayerTableRecord>);
+  ensure("STYLE", L"Standard", addStandard<AcDbTextStyleTableRecord>);
+  ensure("APPID", L"ACAD", addStandard<AcDbRegAppTableRecord>);
+  ensure("DIMSTYLE", L"Standard", addStandard<AcDbDimStyleTableRecord>);
+  ensure("BLOCK_RECORD", ACDB_MODEL_SPACE, addStandard<AcDbBlockTableRecord>);
+  ensure("BLOCK_RECORD", ACDB_PAPER_SPACE, addStandard<AcDbBlockTableRecord>);
+  if (m_namedObjects.isNull()) {
+    auto* root = new AcDbDictionary;
+    addToObjects(root, {});
+    root->setImplicit(true);
+    root->close();
+    m_namedObjects = root->objectId();
+    std::rotate(m_objects.begin(), m_objects.end() - 1, m_objects.end());
+  }
+  return added;
+}
+
+// --- dictionaries and objects
+// ----------------------------------------------------------------------------------
+
+Acad::ErrorStatus AcDbDatabase::getNamedObjectsDictionary(AcDbDictionary*& dictionary, AcDb::OpenMode mode) {
+  return acdbOpenObject(dictionary, m_namedObjects, mode);
+}
+
+Acad::ErrorStatus AcDbDatabase::addAcDbObject(AcDbObject* object, const AcDbObjectId& owner,
+                                              AcDbHandle handle) {
+  if (!object) return Acad::eNullObjectPointer;
+  if (object->database()) return Acad::eAlreadyInDb;
+  if (handle.isNull()) handle = AcDbHandle(m_nextHandle);
+  if (hasHandle(handle)) return Acad::eDuplicateKey;
+  reserveHandle(handle);
+  m_stubs.push_back({handle, this, object});
+  AcDbStub* stub = &m_stubs.back();
+  m_byHandle.emplace(handle.value(), stub);
+  object->setStub(stub);
+  object->setOwnerId(owner);
+  m_undo->recordAppended(*object);
+  object->open(AcDb::kForWrite, false);
+  afterAppend(*object);
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbDatabase::addToObjects(AcDbObject* object, const AcDbObjectId& owner,
+                                             AcDbHandle handle) {
+  const auto status = addAcDbObject(object, owner, handle);
+  if (status == Acad::eOk) m_objects.push_back(object->objectId());
+  return status;
+}
+
+Acad::ErrorStatus AcDbDatabase::getAcDbObjectId(AcDbObjectId& id, bool, const AcDbHandle& handle) const {
+  if (handle.isNull()) return Acad::eNullHandle;
+  const auto found = m_byHandle.find(handle.value());
+  if (found == m_byHandle.end()) return Acad::eUnknownHandle;
+  id = AcDbObjectId(found->second);
+  return Acad::eOk;
+}
+
+void AcDbDatabase::reserveHandle(AcDbHandle handle) {
+  // The top of the 64-bit range is left alone: no counter must run over.
+  if (handle.value() >= m_nextHandle && handle.value() < (~std::uint64_t{0} >> 1))
+    m_nextHandle = handle.value() + 1;
+}
+
+// --- settings
+// --------------------------------------------------------------------------------------------------
+
+AcDbObjectId AcDbDatabase::clayer() const {
+  const auto name = m_header->text("$CLAYER");
+  const AcDbSymbolTable* layers = tableOf("LAYER");
+  AcDbObjectId id = findRecord(layers, name ? name->GetString() : L"0");
+  return id.isNull() ? findRecord(layers, L"0") : id;
+}
+
+Acad::ErrorStatus AcDbDatabase::setClayer(const AcDbObjectId& layer) {
+  if (layer.isNull() || layer.database() != this) return Acad::eNullObjectId;
+  if (layer.isErased()) return Acad::eWasErased;
+  const auto* record = AcDbLayerTableRecord::cast(layer.object());
+  if (!record) return Acad::eNotThatKindOfClass;
+  if (clayer() == layer && m_header->has("$CLAYER")) return Acad::eOk;
+  AcDbObjectPointer<AcDbHeader> header(headerId(), AcDb::kForWrite);
+  if (!header) return header.openStatus();
+  return header->setVariable("$CLAYER", DxfRecordEditor::tag(8, dxf::encodeText(record->name())));
+}
+
+// --- state
+// -----------------------------------------------------------------------------------------------------
+
+void AcDbDatabase::addReactor(AcDbDatabaseReactor* reactor) {
+  if (reactor && std::find(m_reactors.begin(), m_reactors.end(), reactor) == m_reactors.end())
+    m_reactors.push_back(reactor);
+}
+
+void AcDbDatabase::removeReactor(AcDbDatabaseReactor* reactor) {
+  std::erase(m_reactors, reactor);
+}
+
+void AcDbDatabase::beforeChange(AcDbObject& object) {
+  m_undo->recordBefore(object);
+}
+
+void AcDbDatabase::afterChange(AcDbObject& object) {
+  m_modified = true;
+  for (AcDbDatabaseReactor* reactor : std::vector(m_reactors)) reactor->objectModified(this, &object);
+}
+
+void AcDbDatabase::afterErase(AcDbObject& object, bool erased) {
+  m_modified = true;
+  for (AcDbDatabaseReactor* reactor : std::vector(m_reactors)) reactor->objectErased(this, &object, erased);
+}
+
+void AcDbDatabase::afterAppend(AcDbObject& object) {
+  for (AcDbDatabaseReactor* reactor : std::vector(m_reactors)) reactor->objectAppended(this, &object);
+}
+
+// --- opening
+// ---------------------------------------------------------------------------------------------------
+
+Acad::ErrorStatus acdbOpenObject(AcDbObject*& object, const AcDbObjectId& id, AcDb::OpenMode mode,
+                                 bool openErased) {
+  object = nullptr;
+  if (!id.isValid()) return Acad::eNullObjectId;
+  const auto status = id.object()->open(mode, openErased);
+  if (status == Acad::eOk) object = id.object();
+  return status;
+}

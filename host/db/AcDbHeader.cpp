@@ -1,0 +1,74 @@
+#include "host/db/AcDbHeader.h"
+
+#include "host/db/DxfRecordEditor.h"
+#include "host/db/DxfText.h"
+
+ACRX_NO_CONS_DEFINE_MEMBERS(AcDbHeader, AcDbObject)
+
+std::vector<DxfTag> AcDbHeader::variable(std::string_view name) const {
+  std::vector<DxfTag> tags;
+  bool take = false;
+  DxfTagReader reader(rawRecord().text());
+  for (DxfTag tag; reader.next(tag);) {
+    if (tag.code == 9) {
+      if (take) break;
+      take = dxf::trimBlanks(tag.value) == name;
+    } else if (take) {
+      tags.push_back(tag);
+    }
+  }
+  return tags;
+}
+
+std::optional<double> AcDbHeader::real(std::string_view name) const {
+  const auto tags = variable(name);
+  return tags.empty() ? std::nullopt : dxf::toReal(tags.front().value);
+}
+
+std::optional<long long> AcDbHeader::integer(std::string_view name) const {
+  const auto tags = variable(name);
+  return tags.empty() ? std::nullopt : dxf::toInteger(tags.front().value);
+}
+
+std::optional<CString> AcDbHeader::text(std::string_view name) const {
+  const auto tags = variable(name);
+  if (tags.empty()) return std::nullopt;
+  return dxf::decodeText(tags.front().value);
+}
+
+Acad::ErrorStatus AcDbHeader::setVariable(std::string_view name, const std::string& newTags) {
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  const std::string_view text = rawRecord().text();
+  const auto old = variable(name);
+  std::string changed;
+  changed.reserve(text.size() + newTags.size() + 32);
+  if (old.empty()) {
+    changed = text;
+    changed += DxfRecordEditor::tag(9, name) + newTags;
+  } else {
+    // The variable's tags reach from the name's line end to the next name.
+    DxfTagReader reader(text);
+    bool inside = false;
+    const char* begin = nullptr;
+    const char* end = text.data() + text.size();
+    const char* tagStart = text.data();
+    for (DxfTag tag; reader.next(tag);) {
+      const char* tagEnd = tag.value.data() + tag.value.size();
+      if (tagEnd < end) ++tagEnd;
+      if (inside && (tag.code == 9)) {
+        end = tagStart;
+        break;
+      }
+      if (tag.code == 9 && dxf::trimBlanks(tag.value) == name) {
+        inside = true;
+        begin = tagEnd;
+      }
+      tagStart = tagEnd;
+    }
+    changed.append(text.data(), begin);
+    changed += newTags;
+    changed.append(end, text.data() + text.size());
+  }
+  replaceRawRecord(DxfRecord::own(std::move(changed)));
+  return Acad::eOk;
+}

@@ -1,0 +1,112 @@
+#include "host/db/AcDbLayerTable.h"
+
+#include "host/db/AcDbDatabase.h"
+#include "host/db/AcDbTables.h"
+#include "host/db/DxfDecodeContext.h"
+#include "host/db/DxfRecordEditor.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+ACRX_DXF_DEFINE_MEMBERS(AcDbLayerTableRecord, AcDbSymbolTableRecord, "LAYER")
+ACRX_DXF_DEFINE_MEMBERS(AcDbLayerTable, AcDbSymbolTable, "")
+
+Acad::ErrorStatus AcDbLayerTableRecord::setIsOff(bool off) {
+  if (off == m_off && isWriteEnabled()) return Acad::eOk;
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  m_off = off;
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbLayerTableRecord::setIsFrozen(bool frozen) {
+  if (frozen == isFrozen() && isWriteEnabled()) return Acad::eOk;
+  if (frozen && isWriteEnabled() && database() && database()->clayer() == objectId())
+    return Acad::eInvalidInput;
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  setFlag(1, frozen);
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbLayerTableRecord::setIsLocked(bool locked) {
+  if (locked == isLocked() && isWriteEnabled()) return Acad::eOk;
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  setFlag(4, locked);
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbLayerTableRecord::setVPDFLT(bool frozen) {
+  if (frozen == VPDFLT() && isWriteEnabled()) return Acad::eOk;
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  setFlag(2, frozen);
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbLayerTableRecord::setIsPlottable(bool plottable) {
+  if (plottable == m_plottable && isWriteEnabled()) return Acad::eOk;
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  m_plottable = plottable;
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbLayerTableRecord::setColor(const AcCmColor& color) {
+  if (color.isByLayer() || color.isByBlock()) return Acad::eInvalidInput;
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  m_colorIndex = static_cast<short>(color.colorIndex());
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbLayerTableRecord::setLinetypeObjectId(const AcDbObjectId& linetype) {
+  if (linetype.isNull()) return Acad::eNullObjectId;
+  if (!AcDbLinetypeTableRecord::cast(linetype.object())) return Acad::eNotThatKindOfClass;
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  m_linetype = linetype;
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbLayerTableRecord::setLineWeight(AcDb::LineWeight weight) {
+  if (!AcDb::isValidLineWeight(weight)) return Acad::eInvalidInput;
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  m_lineWeight = static_cast<short>(weight);
+  return Acad::eOk;
+}
+
+void AcDbLayerTableRecord::dxfInFields(DxfTags tags, const DxfDecodeContext& context) {
+  AcDbSymbolTableRecord::dxfInFields(tags, context);
+  m_off = false;
+  m_plottable = true;
+  m_colorIndex = 7;
+  m_lineWeight = AcDb::kLnWtByLwDefault;
+  m_linetype.setNull();
+  for (const DxfTag& tag : dxfOwnTags(tags)) {
+    switch (tag.code) {
+    case 62: {
+      const auto colour = context.integer(tag, 7);
+      m_off = colour < 0;
+      m_colorIndex = static_cast<short>(std::clamp<long long>(std::llabs(colour), 0, 256));
+      break;
+    }
+    case 6:
+      m_linetype = context.linetype(tag.value);
+      break;
+    case 290:
+      m_plottable = context.integer(tag, 1) != 0;
+      break;
+    case 370:
+      m_lineWeight = static_cast<short>(context.integer(tag, AcDb::kLnWtByLwDefault));
+      break;
+    default:
+      break;
+    }
+  }
+}
+
+void AcDbLayerTableRecord::dxfOutFields(DxfRecordEditor& editor) const {
+  dxfOutEntry(editor, "LAYER", "AcDbLayerTableRecord");
+  editor.integer(62, m_off ? -m_colorIndex : m_colorIndex);
+  const auto* linetype = AcDbLinetypeTableRecord::cast(m_linetype.object());
+  editor.name(6, linetype ? linetype->name() : CString(L"Continuous"));
+  if (!editor.subclassMarkers()) return; // older drawings know no more
+  editor.integer(290, m_plottable ? 1 : 0, 1);
+  if (database() && database()->form().version >= "AC1015")
+    editor.integer(370, m_lineWeight, static_cast<int>(AcDb::kLnWtByLwDefault));
+}

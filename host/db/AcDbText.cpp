@@ -1,0 +1,154 @@
+#include "host/db/AcDbText.h"
+
+#include "host/db/AcDbSymbolTableRecord.h"
+#include "host/db/AcGiWorldDraw.h"
+#include "host/db/DxfDecodeContext.h"
+#include "host/db/DxfRecordEditor.h"
+#include "host/db/DxfText.h"
+#include "host/db/EntityMath.h"
+
+#include <cmath>
+
+ACRX_DXF_DEFINE_MEMBERS(AcDbText, AcDbEntity, "TEXT")
+
+CString AcDbText::textString() const {
+  if (m_newText) return *m_newText;
+  for (const DxfTag& tag : dxfOwnTags(rawRecord().tags()))
+    if (tag.code == 1) return dxf::decodeText(tag.value);
+  return {};
+}
+
+Acad::ErrorStatus AcDbText::setTextString(const CString& text) {
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  m_newText = text;
+  return Acad::eOk;
+}
+
+AcGePoint3d AcDbText::position() const {
+  return entity::toWorld(m_position, m_normal);
+}
+
+Acad::ErrorStatus AcDbText::setPosition(const AcGePoint3d& position) {
+  if (!entity::isFinite(position)) return Acad::eInvalidInput;
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  const AcGePoint3d moved = entity::toObject(position, m_normal);
+  if (m_alignment) *m_alignment += moved - m_position;
+  m_position = moved;
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbText::setHeight(double height) {
+  if (!(height > 0) || !std::isfinite(height)) return Acad::eInvalidInput;
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  m_height = height;
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbText::setRotation(double angle) {
+  if (!std::isfinite(angle)) return Acad::eInvalidInput;
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  m_rotation = angle;
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbText::setTextStyle(const AcDbObjectId& style) {
+  if (!AcDbSymbolTableRecord::cast(style.object())) return Acad::eNotThatKindOfClass;
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  m_style = style;
+  return Acad::eOk;
+}
+
+void AcDbText::worldDraw(AcGiWorldDraw& draw) const {
+  const AcGeVector3d x = entity::xAxis(m_normal);
+  const AcGeVector3d y = m_normal.crossProduct(x);
+  draw.text(position(), m_normal, x * std::cos(m_rotation) + y * std::sin(m_rotation), m_height,
+            m_widthFactor, textString());
+}
+
+Acad::ErrorStatus AcDbText::transformBy(const AcGeMatrix3d& matrix) {
+  if (!matrix.isUniScaledOrtho()) return Acad::eCannotScaleNonUniformly;
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  const AcGeVector3d x = entity::xAxis(m_normal);
+  const AcGeVector3d y = m_normal.crossProduct(x);
+  const AcGeVector3d direction = matrix * (x * std::cos(m_rotation) + y * std::sin(m_rotation));
+  const AcGePoint3d moved = matrix * position();
+  const auto aligned =
+      m_alignment ? std::optional(matrix * entity::toWorld(*m_alignment, m_normal)) : std::nullopt;
+  m_normal = entity::transformedNormal(m_normal, matrix);
+  m_position = entity::toObject(moved, m_normal);
+  if (aligned) m_alignment = entity::toObject(*aligned, m_normal);
+  const AcGeVector3d newX = entity::xAxis(m_normal);
+  m_rotation = std::atan2(direction.dotProduct(m_normal.crossProduct(newX)), direction.dotProduct(newX));
+  m_height *= matrix.scale();
+  return Acad::eOk;
+}
+
+void AcDbText::dxfInFields(DxfTags tags, const DxfDecodeContext& context) {
+  AcDbEntity::dxfInFields(tags, context);
+  m_position = {};
+  m_alignment.reset();
+  m_normal = {0, 0, 1};
+  m_height = 2.5;
+  m_rotation = m_oblique = 0;
+  m_widthFactor = 1;
+  m_style.setNull();
+  m_newText.reset();
+  const entity::FieldScope scope(tags);
+  for (const DxfTag& tag : scope) {
+    switch (tag.code) {
+    case 10:
+      m_position.x = context.real(tag);
+      break;
+    case 20:
+      m_position.y = context.real(tag);
+      break;
+    case 30:
+      m_position.z = context.real(tag);
+      break;
+    case 11:
+      m_alignment.emplace().x = context.real(tag);
+      break;
+    case 21:
+      if (m_alignment) m_alignment->y = context.real(tag);
+      break;
+    case 31:
+      if (m_alignment) m_alignment->z = context.real(tag);
+      break;
+    case 40:
+      m_height = context.real(tag, 2.5);
+      break;
+    case 41:
+      m_widthFactor = context.real(tag, 1.0);
+      break;
+    case 50:
+      m_rotation = entity::fromDegrees(context.real(tag));
+      break;
+    case 51:
+      m_oblique = entity::fromDegrees(context.real(tag));
+      break;
+    case 7:
+      m_style = context.textStyle(tag.value);
+      break;
+    default:
+      entity::readVector(tag, 210, m_normal, context);
+      break;
+    }
+  }
+}
+
+void AcDbText::dxfOutFields(DxfRecordEditor& editor) const {
+  AcDbEntity::dxfOutFields(editor);
+  editor.subclass("AcDbText");
+  editor.point(10, m_position);
+  editor.real(40, m_height);
+  if (m_newText || rawRecord().isEmpty()) editor.text(1, textString());
+  entity::writeDegrees(editor, 50, m_rotation, true);
+  editor.real(41, m_widthFactor, 1.0);
+  entity::writeDegrees(editor, 51, m_oblique, true);
+  if (const auto* style = AcDbSymbolTableRecord::cast(m_style.object()))
+    editor.name(7, style->name(), L"Standard");
+  if (m_alignment) editor.point(11, *m_alignment);
+  editor.vector(210, m_normal, {0, 0, 1});
+  // The second marker of the class closes its first half, also where no alignment follows.
+  if (rawRecord().isEmpty() && editor.subclassMarkers()) editor.closingMarker("AcDbText");
+}
