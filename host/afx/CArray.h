@@ -2,6 +2,8 @@
 // An array of pointers never frees what they point to.
 #pragma once
 
+#include <limits>
+
 #include "host/afx/CInvalidArgException.h"
 #include "host/afx/ElementStorage.h"
 
@@ -67,7 +69,7 @@ template <class TYPE, class ARG_TYPE = const TYPE&> class CArray {
 
   // Grows the array when the index lies at its end or beyond.
   void SetAtGrow(int index, ARG_TYPE value) {
-    if (index < 0) AfxThrowInvalidArgException();
+    if (index < 0 || index == kMost) AfxThrowInvalidArgException();
     if (index < GetSize()) {
       m_storage.Data()[index] = value;
       return;
@@ -85,6 +87,7 @@ template <class TYPE, class ARG_TYPE = const TYPE&> class CArray {
     const int first = GetSize();
     const int count = other.GetSize();
     if (count == 0) return first;
+    if (count > kMost - first) AfxThrowInvalidArgException();
     SetSize(first + count);
     std::copy_n(other.GetData(), count, GetData() + first);
     return first;
@@ -128,6 +131,8 @@ template <class TYPE, class ARG_TYPE = const TYPE&> class CArray {
   TYPE* end() { return GetData() + GetSize(); }
 
  private:
+  static constexpr int kMost = std::numeric_limits<int>::max(); // elements
+
   int Checked(int index) const {
     if (index < 0 || index >= GetSize()) AfxThrowInvalidArgException();
     return index;
@@ -136,12 +141,13 @@ template <class TYPE, class ARG_TYPE = const TYPE&> class CArray {
   int GrownCapacity(int wanted) const {
     const int step = m_growBy > 0 ? m_growBy : std::clamp(GetSize() / 8, 4, 1024);
     if (m_storage.Capacity() == 0) return std::max(wanted, m_growBy);
-    return std::max(wanted, m_storage.Capacity() + step);
+    return std::max(wanted, m_storage.Capacity() + std::min(step, kMost - m_storage.Capacity()));
   }
 
   // Makes count value-initialised elements at index; those from index on move up.
   void OpenGap(int index, int count) {
     const int oldSize = GetSize();
+    if (count > kMost - std::max(oldSize, index)) AfxThrowInvalidArgException();
     SetSize(std::max(oldSize, index) + count);
     if (index >= oldSize) return;
     TYPE* gap = GetData() + index;

@@ -1,9 +1,11 @@
 #include "host/afx/CodePage.h"
 
 #include <array>
+#include <cstdint>
 #include <memory>
 #include <mutex>
 
+#include "host/afx/AsciiPrefix.h"
 #include "host/afx/CodePageTables.h"
 #include "host/afx/Encoding.h"
 
@@ -92,10 +94,6 @@ const CodePageTables* TablesOf(int row) {
   return slot.tables.get();
 }
 
-bool IsAscii(wchar_t character) {
-  return static_cast<unsigned>(character) < 0x80;
-}
-
 } // namespace
 
 class CodePageList {
@@ -126,9 +124,11 @@ const char* CodePage::Name() const {
 std::wstring CodePage::Decode(std::string_view bytes) const {
   const CodePageTables* tables = TablesOf(m_row);
   if (!tables) return Utf8ToWide(bytes);
+  const std::size_t plain = AsciiPrefix(bytes);
   std::wstring text;
   text.reserve(bytes.size());
-  for (std::size_t i = 0; i < bytes.size(); ++i) {
+  text.append(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(plain));
+  for (std::size_t i = plain; i < bytes.size(); ++i) {
     const auto byte = static_cast<unsigned char>(bytes[i]);
     if (byte < 0x80) {
       text += static_cast<wchar_t>(byte);
@@ -148,12 +148,14 @@ std::wstring CodePage::Decode(std::string_view bytes) const {
 std::string CodePage::Encode(std::wstring_view text, const Unencodable& unencodable) const {
   const CodePageTables* tables = TablesOf(m_row);
   if (!tables) return WideToUtf8(text);
+  const std::size_t plain = AsciiPrefix(text);
   std::string bytes;
-  bytes.reserve(text.size() * 2);
-  for (const wchar_t character : text) {
+  bytes.reserve(plain + (text.size() - plain) * 2);
+  bytes.append(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(plain));
+  for (const wchar_t character : text.substr(plain)) {
     const auto value = static_cast<std::uint32_t>(character);
     const unsigned code = value < tables->codes.size() ? tables->codes[value] : 0;
-    if (IsAscii(character)) {
+    if (value < 0x80) {
       bytes += static_cast<char>(character);
     } else if (value >= 0xDC80 && value <= 0xDCFF) {
       bytes += static_cast<char>(value - 0xDC00);

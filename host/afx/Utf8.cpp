@@ -1,6 +1,6 @@
 #include <cstdint>
-#include <cstring>
 
+#include "host/afx/AsciiPrefix.h"
 #include "host/afx/Encoding.h"
 
 namespace afx {
@@ -56,10 +56,12 @@ void AppendCharacter(std::uint32_t character, std::string& out) {
 } // namespace
 
 std::wstring Utf8ToWide(std::string_view utf8) {
+  const std::size_t plain = AsciiPrefix(utf8);
   std::wstring text;
   text.reserve(utf8.size());
+  text.append(utf8.begin(), utf8.begin() + static_cast<std::ptrdiff_t>(plain));
   const auto* bytes = reinterpret_cast<const unsigned char*>(utf8.data());
-  for (std::size_t i = 0; i < utf8.size();) {
+  for (std::size_t i = plain; i < utf8.size();) {
     if (bytes[i] < 0x80) {
       text += static_cast<wchar_t>(bytes[i++]);
       continue;
@@ -73,9 +75,11 @@ std::wstring Utf8ToWide(std::string_view utf8) {
 }
 
 std::string WideToUtf8(std::wstring_view text) {
+  const std::size_t plain = AsciiPrefix(text);
   std::string utf8;
-  utf8.reserve(text.size() + text.size() / 2);
-  for (std::size_t i = 0; i < text.size(); ++i) {
+  utf8.reserve(plain + (text.size() - plain) * 3);
+  utf8.append(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(plain));
+  for (std::size_t i = plain; i < text.size(); ++i) {
     const auto character = static_cast<std::uint32_t>(text[i]);
     if (character < 0xD800 || (character > 0xDFFF && character <= 0x10FFFF)) {
       AppendCharacter(character, utf8);

@@ -66,6 +66,9 @@ TEST(CArray, AnIndexOutsideRaisesTheInvalidArgumentException) {
   EXPECT_THROW(array.RemoveAt(0, 2147483647), CInvalidArgException);
   EXPECT_THROW(array.RemoveAt(0, -1), CInvalidArgException);
   EXPECT_THROW(array.SetSize(-1), CInvalidArgException);
+  EXPECT_THROW(array.SetAtGrow(2147483647, 0), CInvalidArgException);
+  EXPECT_THROW(array.InsertAt(2147483647, 0), CInvalidArgException);
+  EXPECT_THROW(array.InsertAt(1, 0, 2147483647), CInvalidArgException);
   EXPECT_THROW(CArray<int>()[0], CInvalidArgException);
   EXPECT_THAT(array, ElementsAre(1));
 }

@@ -48,6 +48,17 @@ TEST(Utf8, TextAfterABadByteIsStillRead) {
   EXPECT_EQ(afx::Utf8ToWide("\xF0\x9F\x94x"), L"\xDCF0\xDC9F\xDC94x");
 }
 
+TEST(Utf8, AHighByteIsSeenWhereverItStands) {
+  for (std::size_t at = 0; at < 20; ++at) {
+    std::string bytes(20, 'a');
+    std::wstring text(20, L'a');
+    bytes[at] = '\x80';
+    text[at] = 0xDC80;
+    EXPECT_EQ(afx::Utf8ToWide(bytes), text);
+    EXPECT_EQ(afx::WideToUtf8(text), bytes);
+  }
+}
+
 TEST(Utf8, EveryTruncationLosesNothing) {
   const std::string text = "供水a\xF0\x9F\x94\xA5¢";
   for (std::size_t length = 0; length <= text.size(); ++length) {
