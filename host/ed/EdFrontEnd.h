@@ -1,0 +1,50 @@
+// What the editor needs of the program around it: typed lines, a place to print, message boxes. The console
+// and the desktop each implement it once; commands and plug-ins never see which one is there.
+#pragma once
+
+#include "host/afx/CString.h"
+
+#include <optional>
+#include <vector>
+
+class AcApDocument;
+class CWnd;
+
+struct EdMessageBox {
+  CString caption;
+  CString text;
+  std::vector<CString> buttons; // captions such as "是(Y)"; at least one
+  std::size_t defaultButton = 0;
+};
+
+// A line that could not be obeyed.
+struct EdRefusal {
+  CString source; // the script's name; empty for lines that the user typed
+  int number = 0; // of the line in its source, from 1; 0 when no line was read yet
+  CString line;
+  CString reason;   // a sentence
+  CString expected; // what would have been accepted; may be empty
+};
+
+class EdFrontEnd {
+public:
+  virtual ~EdFrontEnd() = default;
+
+  // The next line that the user types, without its end; nothing when there is no more input. Shows the prompt
+  // if a person is reading along.
+  virtual std::optional<CString> readLine(const CString& prompt) = 0;
+  // Shows a line as the answer to its prompt. typed: it came from readLine.
+  virtual void echo(const CString& prompt, const CString& line, bool typed) = 0;
+  virtual void print(const CString& text) = 0;
+  // The index of the button taken.
+  virtual std::size_t messageBox(const EdMessageBox& box) = 0;
+  virtual void lineRefused(const EdRefusal& refusal) = 0;
+
+  // The document's picture is to be drawn anew.
+  virtual void regenerate(AcApDocument&) {}
+  // Null where there are no windows.
+  virtual CWnd* mainWindow() { return nullptr; }
+  virtual CWnd* drawingView() { return nullptr; }
+  // Half the side of the pick box in drawing units at the current zoom; nothing where there is no view.
+  virtual std::optional<double> pickAperture() { return std::nullopt; }
+};

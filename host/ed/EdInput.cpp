@@ -1,0 +1,89 @@
+#include "host/ed/EdInput.h"
+
+#include "host/ed/EdFrontEnd.h"
+
+#include <algorithm>
+#include <utility>
+
+void EdInput::push(std::unique_ptr<EdLineSource> source) {
+  m_sources.push_back({std::move(source), 0, std::nullopt});
+}
+
+std::size_t EdInput::scriptDepth() const {
+  return static_cast<std::size_t>(
+      std::count_if(m_sources.begin(), m_sources.end(), [](const Source& s) { return s.lines->isScript(); }));
+}
+
+void EdInput::popTo(std::size_t depth) {
+  if (m_sources.size() > depth) m_sources.resize(depth);
+}
+
+void EdInput::dropFinished() {
+  while (!m_sources.empty() && !m_sources.back().unread && m_sources.back().lines->atEnd() &&
+         m_sources.back().lines->fallsThrough())
+    m_sources.pop_back();
+}
+
+void EdInput::clear() {
+  m_sources.clear();
+  m_typedUnread.reset();
+  m_typedLines = 0;
+  m_last = {};
+}
+
+std::optional<EdInput::Fetched> EdInput::fetch(const CString& prompt) {
+  while (!m_sources.empty()) {
+    auto& top = m_sources.back();
+    if (top.unread) return std::exchange(top.unread, std::nullopt);
+    bool tooLong = false;
+    if (auto text = top.lines->next(tooLong))
+      return Fetched{{std::move(*text), top.lines->name(), ++top.number, false}, top.lines->echo(), tooLong};
+    if (!top.lines->fallsThrough()) return std::nullopt;
+    m_sources.pop_back();
+  }
+  if (m_typedUnread) return std::exchange(m_typedUnread, std::nullopt);
+  if (!m_frontEnd) return std::nullopt;
+  auto text = m_frontEnd->readLine(prompt);
+  if (!text) return std::nullopt;
+  const bool tooLong = text->View().size() > kEdLineLimit;
+  if (tooLong) *text = text->Left(kEdLineLimit);
+  return Fetched{{std::move(*text), CString(), ++m_typedLines, true}, true, tooLong};
+}
+
+std::optional<EdInput::Fetched> EdInput::fetchNoComment(const CString& prompt, bool freeText) {
+  while (auto fetched = fetch(prompt)) {
+    if (fetched->tooLong) {
+      m_last = fetched->line;
+      CString reason;
+      reason.Format(L"这一行超过 %d 字节，未予读取。", static_cast<int>(kEdLineLimit));
+      if (m_frontEnd)
+        m_frontEnd->lineRefused({m_last.source, m_last.number, m_last.text, reason, L"较短的一行"});
+      continue;
+    }
+    if (freeText || !fetched->line.text.View().starts_with(L';')) return fetched;
+    if (m_frontEnd && fetched->echo) m_frontEnd->echo(CString(), fetched->line.text, fetched->line.typed);
+  }
+  return std::nullopt;
+}
+
+EdLine EdInput::take(const CString& prompt, const Fetched& fetched) {
+  m_last = fetched.line;
+  if (m_frontEnd && fetched.echo) m_frontEnd->echo(prompt, m_last.text, m_last.typed);
+  return m_last;
+}
+
+std::optional<EdLine> EdInput::read(const CString& prompt, bool freeText) {
+  const auto fetched = fetchNoComment(prompt, freeText);
+  if (!fetched) return std::nullopt;
+  return take(prompt, *fetched);
+}
+
+std::optional<EdLine> EdInput::readIf(const CString& prompt,
+                                      const std::function<bool(const CString&)>& fits) {
+  auto fetched = fetchNoComment(prompt, false);
+  if (!fetched) return std::nullopt;
+  if (fits(fetched->line.text)) return take(prompt, *fetched);
+  auto& unread = fetched->line.typed ? m_typedUnread : m_sources.back().unread;
+  unread = std::move(fetched);
+  return std::nullopt;
+}

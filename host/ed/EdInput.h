@@ -1,0 +1,64 @@
+// The lines that answer prompts, from whoever gives them: the topmost script or string first, else the user.
+// Knows the line read last, so that a refusal can name it.
+#pragma once
+
+#include "host/ed/EdLineSource.h"
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+class EdFrontEnd;
+
+struct EdLine {
+  CString text;
+  CString source; // the script's name, empty otherwise
+  int number = 0; // in its source, from 1
+  bool typed = false;
+};
+
+class EdInput {
+public:
+  static constexpr std::size_t kMaxScripts = 8;
+
+  void setFrontEnd(EdFrontEnd* frontEnd) { m_frontEnd = frontEnd; }
+
+  void push(std::unique_ptr<EdLineSource> source);
+  // Scripts that have not ended.
+  std::size_t scriptDepth() const;
+  std::size_t depth() const { return m_sources.size(); }
+  // Drops the sources above a depth, whatever they still hold.
+  void popTo(std::size_t depth);
+  // Drops the sources on top that have no line left.
+  void dropFinished();
+  void clear();
+
+  // The next line, shown as the answer to the prompt; nothing at the end of the input. A line that begins with
+  // ";" is told to the user and passed over, except for free text.
+  std::optional<EdLine> read(const CString& prompt, bool freeText = false);
+  // The next line if it fits, and is left for the next reader otherwise.
+  std::optional<EdLine> readIf(const CString& prompt, const std::function<bool(const CString&)>& fits);
+
+  const EdLine& last() const { return m_last; }
+
+private:
+  struct Fetched {
+    EdLine line;
+    bool echo = true;
+    bool tooLong = false;
+  };
+  struct Source {
+    std::unique_ptr<EdLineSource> lines;
+    int number = 0;
+    std::optional<Fetched> unread;
+  };
+  std::optional<Fetched> fetch(const CString& prompt);
+  std::optional<Fetched> fetchNoComment(const CString& prompt, bool freeText);
+  EdLine take(const CString& prompt, const Fetched& fetched);
+
+  EdFrontEnd* m_frontEnd = nullptr;
+  std::vector<Source> m_sources;
+  int m_typedLines = 0;
+  std::optional<Fetched> m_typedUnread;
+  EdLine m_last;
+};
