@@ -1,0 +1,44 @@
+// An empty installation folder that the paths of the plug-in lead to while this lives; removed afterwards.
+#pragma once
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+#include <string>
+
+#include "host/afx/Paths.h"
+
+class TempInstall {
+ public:
+  TempInstall() : m_before(afx::InstallRoot()) {
+    std::string pattern = (std::filesystem::temp_directory_path() / "zpinstall-XXXXXX").string();
+    if (!mkdtemp(pattern.data())) throw std::runtime_error("no temporary folder");
+    m_root = pattern;
+    afx::SetInstallRoot(CString::FromUtf8(pattern));
+  }
+  ~TempInstall() {
+    afx::SetInstallRoot(m_before);
+    std::error_code ignored;
+    std::filesystem::remove_all(m_root, ignored);
+  }
+  TempInstall(const TempInstall&) = delete;
+  TempInstall& operator=(const TempInstall&) = delete;
+
+  const std::filesystem::path& Root() const { return m_root; }
+
+  void Write(const std::filesystem::path& relative, const std::string& bytes) const {
+    std::filesystem::create_directories((m_root / relative).parent_path());
+    std::ofstream(m_root / relative, std::ios::binary) << bytes;
+  }
+  std::string Read(const std::filesystem::path& relative) const {
+    std::ifstream file(m_root / relative, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+  bool Has(const std::filesystem::path& relative) const { return std::filesystem::exists(m_root / relative); }
+
+ private:
+  std::filesystem::path m_root;
+  CString m_before;
+};
