@@ -1,0 +1,13 @@
+// How long a character becomes in a drawing file.
+#pragma once
+
+struct DrawingForm;
+
+namespace xdata {
+
+// The most bytes that the character takes in the drawing, whether the file is written in UTF-8 or in the
+// drawing's code page, escapes included: a text measured so fits also after the drawing has been saved in
+// another version.
+int EncodedLength(wchar_t character, const DrawingForm& form);
+
+} // namespace xdata
