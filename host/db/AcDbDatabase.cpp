@@ -1,5 +1,6 @@
 #include "host/db/AcDbDatabase.h"
 
+#include "host/db/AcDbBlockMarks.h"
 #include "host/db/AcDbBlockTable.h"
 #include "host/db/AcDbDatabaseReactor.h"
 #include "host/db/AcDbDictionary.h"
@@ -173,17 +174,7 @@ Acad::ErrorStatus AcDbDatabase::registerApplication(const CString& name) {
 
 std::vector<CString> AcDbDatabase::completeStandardEntries() {
   std::vector<CString> added;
-  // Tables first: a handle of their own before those of their entries.
-  for (const AcDbObjectId& id : m_tables) {
-    auto* stub = id.object();
-    if (!stub->handle().isNull()) continue;
-    for (AcDbStub& entry : m_stubs) {
-      if (entry.object != stub) continue;
-      entry.handle = AcDbHandle(m_nextHandle++);
-      m_byHandle[entry.handle.value()] = &entry;
-      break;
-    }
-  }
+  if (!m_loading) endLoading(); // the tables' handles come before those of their entries
   const auto ensure = [&](const char* type, const wchar_t* name, auto make) {
     if (!findRecord(tableOf(type), name).isNull()) return;
     make(*this, type, name);
@@ -197,7 +188,8 @@ std::vector<CString> AcDbDatabase::completeStandardEntries() {
   ensure("LAYER", L"0", addStandard<AcDbLayerTableRecord>);
   ensure("STYLE", L"Standard", addStandard<AcDbTextStyleTableRecord>);
   ensure("APPID", L"ACAD", addStandard<AcDbRegAppTableRecord>);
-  ensure("DIMSTYLE", L"Standard", addStandard<AcDbDimStyleTableRecord>);
+  // A drawing may do with dimension styles of its own.
+  if (tableOf("DIMSTYLE")->records().empty()) ensure("DIMSTYLE", L"Standard", addStandard<AcDbDimStyleTableRecord>);
   ensure("BLOCK_RECORD", ACDB_MODEL_SPACE, addStandard<AcDbBlockTableRecord>);
   ensure("BLOCK_RECORD", ACDB_PAPER_SPACE, addStandard<AcDbBlockTableRecord>);
   if (m_namedObjects.isNull()) {
@@ -211,6 +203,24 @@ std::vector<CString> AcDbDatabase::completeStandardEntries() {
   return added;
 }
 
+void AcDbDatabase::completeBlocks() {
+  for (const AcDbObjectId& id : tableOf("BLOCK_RECORD")->records()) {
+    auto* block = AcDbBlockTableRecord::cast(id.object());
+    if (!block || block->isErased()) continue;
+    const AcDbObjectId layerZero = findRecord(tableOf("LAYER"), L"0");
+    const auto mark = [&](AcDbEntity* entity) {
+      entity->setLayer(layerZero);
+      addAcDbObject(entity, id);
+      entity->setPaperSpace(block->isLayout() && !block->isModelSpace());
+      entity->setImplicit(true);
+      entity->close();
+      return entity->objectId();
+    };
+    if (block->blockBeginId().isNull()) block->setBegin(mark(new AcDbBlockBegin));
+    if (block->blockEndId().isNull()) block->setEnd(mark(new AcDbBlockEnd));
+  }
+}
+
 // --- dictionaries and objects
 // ----------------------------------------------------------------------------------
 
@@ -222,18 +232,31 @@ Acad::ErrorStatus AcDbDatabase::addAcDbObject(AcDbObject* object, const AcDbObje
                                               AcDbHandle handle) {
   if (!object) return Acad::eNullObjectPointer;
   if (object->database()) return Acad::eAlreadyInDb;
-  if (handle.isNull()) handle = AcDbHandle(m_nextHandle);
+  if (handle.isNull() && !m_loading) handle = AcDbHandle(m_nextHandle);
   if (hasHandle(handle)) return Acad::eDuplicateKey;
-  reserveHandle(handle);
-  m_stubs.push_back({handle, this, object});
-  AcDbStub* stub = &m_stubs.back();
-  m_byHandle.emplace(handle.value(), stub);
-  object->setStub(stub);
+  m_stubs.push_back({AcDbHandle(), this, object});
+  object->setStub(&m_stubs.back());
+  giveHandle(*object, handle);
   object->setOwnerId(owner);
   m_undo->recordAppended(*object);
-  object->open(AcDb::kForWrite, false);
+  object->openAsNew();
   afterAppend(*object);
   return Acad::eOk;
+}
+
+bool AcDbDatabase::giveHandle(AcDbObject& object, AcDbHandle handle) {
+  AcDbStub* stub = object.objectId().stub();
+  if (handle.isNull() || !stub->handle.isNull() || hasHandle(handle)) return false;
+  stub->handle = handle;
+  m_byHandle.emplace(handle.value(), stub);
+  reserveHandle(handle);
+  return true;
+}
+
+void AcDbDatabase::endLoading() {
+  m_loading = false;
+  for (AcDbStub& stub : m_stubs)
+    if (stub.handle.isNull() && stub.object != m_header) giveHandle(*stub.object, AcDbHandle(m_nextHandle));
 }
 
 Acad::ErrorStatus AcDbDatabase::addToObjects(AcDbObject* object, const AcDbObjectId& owner,

@@ -69,6 +69,7 @@ class AcDbDatabase {
   void setNamedObjectsDictionaryId(const AcDbObjectId& id) { m_namedObjects = id; }
   // The objects of the OBJECTS section in the order of the file.
   const std::vector<AcDbObjectId>& objects() const { return m_objects; }
+  std::vector<AcDbObjectId>& objects() { return m_objects; }
 
   // --- objects
   // ---------------------------------------------------------------------------------------------- Takes
@@ -122,8 +123,17 @@ class AcDbDatabase {
   void afterErase(AcDbObject& object, bool erased);
   void afterAppend(AcDbObject& object);
 
+  // While a file is read, objects without a handle of the file's wait for one: they must not take a number
+  // that stands further on in the file. endLoading gives them handles above all others.
+  void beginLoading() { m_loading = true; }
+  void endLoading();
+  // Gives a waiting object the handle that a file has for it. False when the handle is taken or null.
+  bool giveHandle(AcDbObject& object, AcDbHandle handle);
+
   // Adds what every drawing must have and this one lacks, as implicit objects. Returns what was added.
   std::vector<CString> completeStandardEntries();
+  // Gives each block that lacks them its begin and end marks, without which it can't be filed.
+  void completeBlocks();
 
  private:
   friend class UndoHistory;
@@ -143,6 +153,7 @@ class AcDbDatabase {
   std::vector<AcDbDatabaseReactor*> m_reactors;
   bool m_modified = false;
   bool m_renamed = false;
+  bool m_loading = false;
 };
 
 // --- opening

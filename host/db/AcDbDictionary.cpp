@@ -72,11 +72,8 @@ void AcDbDictionary::dxfInFields(DxfTags tags, const DxfDecodeContext&) {
 
 void AcDbDictionary::dxfOutFields(DxfRecordEditor& editor) const {
   const bool isNew = rawRecord().isEmpty();
-  editor.type("DICTIONARY");
-  if (isNew) {
-    editor.handle(5, handle());
-    editor.handle(330, ownerId().handle());
-  }
+  dxfOutHead(editor, "DICTIONARY");
+  if (isNew) editor.handle(330, ownerId().handle());
   editor.subclass("AcDbDictionary");
   if (isNew) editor.integer(281, 1);
   if (!m_entriesChanged) return;
@@ -148,4 +145,11 @@ void AcDbXrecord::dxfOutFields(DxfRecordEditor& editor) const {
     }
   }
   editor.replaceAll(head + m_newData.value_or(std::string()) + tail);
+}
+
+// --- objects kept as they came
+// ---------------------------------------------------------------------------------
+
+void AcDbUnknownObject::dxfOutFields(DxfRecordEditor& editor) const {
+  dxfOutHead(editor, rawRecord().type());
 }

@@ -61,4 +61,7 @@ class AcDbXrecord : public AcDbObject {
 // An object of the OBJECTS section that the host keeps as it came.
 class AcDbUnknownObject : public AcDbObject {
   ACRX_DECLARE_MEMBERS(AcDbUnknownObject);
+
+ protected:
+  void dxfOutFields(DxfRecordEditor& editor) const override;
 };

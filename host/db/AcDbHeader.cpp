@@ -38,37 +38,31 @@ std::optional<CString> AcDbHeader::text(std::string_view name) const {
 
 Acad::ErrorStatus AcDbHeader::setVariable(std::string_view name, const std::string& newTags) {
   if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  const std::string_view text = rawRecord().text();
-  const auto old = variable(name);
-  std::string changed;
-  changed.reserve(text.size() + newTags.size() + 32);
-  if (old.empty()) {
-    changed = text;
-    changed += DxfRecordEditor::tag(9, name) + newTags;
-  } else {
-    // The variable's tags reach from the name's line end to the next name.
-    DxfTagReader reader(text);
-    bool inside = false;
-    const char* begin = nullptr;
-    const char* end = text.data() + text.size();
-    const char* tagStart = text.data();
-    for (DxfTag tag; reader.next(tag);) {
-      const char* tagEnd = tag.value.data() + tag.value.size();
-      if (tagEnd < end) ++tagEnd;
-      if (inside && (tag.code == 9)) {
-        end = tagStart;
-        break;
-      }
-      if (tag.code == 9 && dxf::trimBlanks(tag.value) == name) {
-        inside = true;
-        begin = tagEnd;
-      }
-      tagStart = tagEnd;
-    }
-    changed.append(text.data(), begin);
-    changed += newTags;
-    changed.append(end, text.data() + text.size());
-  }
-  replaceRawRecord(DxfRecord::own(std::move(changed)));
+  replaceRawRecord(DxfRecord::own(withVariable(rawRecord().text(), name, newTags)));
   return Acad::eOk;
+}
+
+std::string AcDbHeader::withVariable(std::string_view text, std::string_view name,
+                                     const std::string& newTags) {
+  // The variable's tags reach from the end of its name's line to the next name.
+  const char* begin = nullptr;
+  const char* const textEnd = text.data() + text.size();
+  const char* end = textEnd;
+  const char* tagStart = text.data();
+  DxfTagReader reader(text);
+  for (DxfTag tag; reader.next(tag);) {
+    const char* tagEnd = tag.value.data() + tag.value.size();
+    if (tagEnd < textEnd) ++tagEnd;
+    if (begin && tag.code == 9) {
+      end = tagStart;
+      break;
+    }
+    if (tag.code == 9 && dxf::trimBlanks(tag.value) == name) begin = tagEnd;
+    tagStart = tagEnd;
+  }
+  if (!begin) return std::string(text) + DxfRecordEditor::tag(9, name) + newTags;
+  std::string changed(text.data(), begin);
+  changed += newTags;
+  changed.append(end, textEnd);
+  return changed;
 }

@@ -20,4 +20,6 @@ class AcDbHeader : public AcDbObject {
   std::optional<CString> text(std::string_view name) const;
   // Replaces the variable's tags, or appends the variable. Must be open for write.
   Acad::ErrorStatus setVariable(std::string_view name, const std::string& tags);
+  // The text of header variables with one of them replaced or appended.
+  static std::string withVariable(std::string_view text, std::string_view name, const std::string& tags);
 };

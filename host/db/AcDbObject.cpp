@@ -27,11 +27,6 @@ std::size_t extendedDataSize(const DxfRecord& record) {
 
 AcDbObject::~AcDbObject() = default;
 
-AcDbStub* AcDbObject::stubOf(const AcDbObjectId& id) {
-  const AcDbObject* object = id.object();
-  return object ? object->m_stub : nullptr;
-}
-
 Acad::ErrorStatus AcDbObject::open(AcDb::OpenMode mode, bool openErased) {
   if (m_erased && !openErased) return Acad::eWasErased;
   if (m_writing) return Acad::eWasOpenForWrite;

@@ -30,7 +30,7 @@ class AcDbObject : public AcRxObject {
   AcDbDatabase* database() const { return m_stub ? m_stub->database : nullptr; }
   AcDbObjectId ownerId() const { return AcDbObjectId(m_owner); }
   // The structure's own modules set the owner when they take an object in.
-  void setOwnerId(const AcDbObjectId& owner) { m_owner = owner.isNull() ? nullptr : stubOf(owner); }
+  void setOwnerId(const AcDbObjectId& owner) { m_owner = owner.stub(); }
 
   // Ends the opening. An object that never entered a database is not closed but deleted.
   Acad::ErrorStatus close();
@@ -70,6 +70,8 @@ class AcDbObject : public AcRxObject {
   // --- opening, for the database
   // ----------------------------------------------------------------------------
   Acad::ErrorStatus open(AcDb::OpenMode mode, bool openErased);
+  // What was just taken into the drawing is open for write, on a locked layer too.
+  void openAsNew() { m_writing = true; }
   void setStub(AcDbStub* stub) { m_stub = stub; }
   void setErasedFlag(bool erased) { m_erased = erased; }
 
@@ -87,8 +89,6 @@ class AcDbObject : public AcRxObject {
   void dxfOutHead(DxfRecordEditor& editor, std::string_view type, int handleCode = 5) const;
 
  private:
-  static AcDbStub* stubOf(const AcDbObjectId& id);
-
   AcDbStub* m_stub = nullptr;
   AcDbStub* m_owner = nullptr;
   mutable DxfRecord m_record;

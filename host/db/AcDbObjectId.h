@@ -30,6 +30,7 @@ class AcDbObjectId {
   AcDbDatabase* database() const { return m_stub ? m_stub->database : nullptr; }
   // The object itself, opened or not: for the database's own modules. Others open it.
   AcDbObject* object() const { return m_stub ? m_stub->object : nullptr; }
+  AcDbStub* stub() const { return m_stub; }
 
   bool operator==(const AcDbObjectId& other) const { return m_stub == other.m_stub; }
   bool operator!=(const AcDbObjectId& other) const { return m_stub != other.m_stub; }

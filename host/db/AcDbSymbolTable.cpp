@@ -28,7 +28,7 @@ Acad::ErrorStatus AcDbSymbolTable::getAt(const wchar_t* name, AcDbObjectId& id, 
     const auto* record = static_cast<const AcDbSymbolTableRecord*>(entry->second.object());
     if (folded(record->name().View()) != key) continue;
     AcDbObjectId& slot = record->isErased() ? erased : found;
-    if (slot.isNull() || entry->second < slot) slot = entry->second;
+    if (slot.isNull()) slot = entry->second;
   }
   if (!found.isNull()) {
     id = found;
@@ -56,6 +56,7 @@ Acad::ErrorStatus AcDbSymbolTable::add(AcDbSymbolTableRecord* record) {
   const auto status = database()->addAcDbObject(record, objectId());
   if (status != Acad::eOk) return status;
   file(*record);
+  assertWriteEnabled(); // the table counts its entries
   database()->afterChange(*record);
   return Acad::eOk;
 }

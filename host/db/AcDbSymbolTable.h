@@ -33,6 +33,9 @@ class AcDbSymbolTable : public AcDbObject {
   // Files a record that is in the database already.
   void file(AcDbSymbolTableRecord& record);
   void nameChanged(AcDbSymbolTableRecord& record);
+  // What closes the table in a file.
+  const DxfRecord& endRecord() const { return m_endRecord; }
+  void setEndRecord(DxfRecord end) { m_endRecord = std::move(end); }
 
  protected:
   void dxfOutFields(DxfRecordEditor& editor) const override;
@@ -41,6 +44,7 @@ class AcDbSymbolTable : public AcDbObject {
   std::vector<AcDbObjectId> m_records;
   std::unordered_multimap<std::wstring, AcDbObjectId> m_byName; // folded; may hold names of before
   std::string m_recordType;
+  DxfRecord m_endRecord;
 };
 
 // Walks the records of a table in their order, erased ones skipped by default.

@@ -27,6 +27,9 @@ struct DrawingForm {
     DxfRecord tail; // from "0 ENDSEC" to the next section
   };
   std::vector<Section> sections;
+  // The next free handle when reading had ended. Old drawings may go without handles in the file: as long as
+  // nothing was added, their own seed stands.
+  AcDbHandle seedAfterReading;
   DxfRecord preamble;                   // ahead of the first section
   DxfRecord eof;                        // "0 EOF" and what follows it
   std::vector<DxfRecord> classes;       // the records of CLASSES

@@ -1,6 +1,7 @@
 #include "host/db/DxfDecodeContext.h"
 
 #include "host/afx/MessageLog.h"
+#include "host/db/AcDbBlockTable.h"
 #include "host/db/AcDbDatabase.h"
 #include "host/db/AcDbLayerTable.h"
 #include "host/db/AcDbTables.h"
@@ -56,9 +57,7 @@ AcDbObjectId DxfDecodeContext::linetype(std::string_view raw) const {
   AcDbObjectId id = lookUp(m_database, "LTYPE", name);
   if (id.isNull()) {
     id = define<AcDbLinetypeTableRecord>(m_database, "LTYPE", name);
-    const bool standard = name.CompareNoCase(L"ByLayer") == 0 || name.CompareNoCase(L"ByBlock") == 0 ||
-                          name.CompareNoCase(L"Continuous") == 0;
-    if (!id.isNull() && !standard) repaired({6, raw}, quoted(L"线型“%s”未定义，已补建为实线", name));
+    if (!id.isNull()) definedMissing({6, raw}, id, quoted(L"线型“%s”未定义，已补建为实线", name));
   }
   m_linetypes.insert_or_assign(std::string(raw), id);
   return id;
@@ -69,7 +68,16 @@ AcDbObjectId DxfDecodeContext::textStyle(std::string_view raw) const {
 }
 
 AcDbObjectId DxfDecodeContext::block(std::string_view raw) const {
-  return lookUp(m_database, "BLOCK_RECORD", dxf::decodeText(dxf::trimBlanks(raw)));
+  if (const auto found = m_blocks.find(raw); found != m_blocks.end() && !found->second.isErased())
+    return found->second;
+  const CString name = dxf::decodeText(dxf::trimBlanks(raw));
+  AcDbObjectId id = lookUp(m_database, "BLOCK_RECORD", name);
+  if (id.isNull()) {
+    id = define<AcDbBlockTableRecord>(m_database, "BLOCK_RECORD", name);
+    if (!id.isNull()) definedMissing({2, raw}, id, quoted(L"块“%s”未定义", name));
+  }
+  m_blocks.insert_or_assign(std::string(raw), id);
+  return id;
 }
 
 AcDbObjectId DxfDecodeContext::objectByHandle(std::string_view hex) const {
@@ -92,6 +100,10 @@ long long DxfDecodeContext::integer(const DxfTag& tag, long long fallback) const
   what.Format(L"“%s”不是整数，按 %d 处理", dxf::decodeText(tag.value), fallback);
   repaired(tag, what);
   return fallback;
+}
+
+void DxfDecodeContext::definedMissing(const DxfTag& tag, const AcDbObjectId&, const CString& what) const {
+  repaired(tag, what);
 }
 
 void DxfDecodeContext::repaired(const DxfTag& tag, const CString& what) const {

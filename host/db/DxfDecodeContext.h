@@ -17,8 +17,9 @@ class DxfDecodeContext {
 
   AcDbDatabase& database() const { return m_database; }
 
-  // The table record of a name as it stands in a record. A name that the drawing lacks is reported and, for
-  // layers and linetypes, defined, so that no entity is without one; null for an unusable name.
+  // The table record of a name as it stands in a record. A layer, linetype or block that the drawing lacks is
+  // defined as an implicit record, so that no entity is without one, and told to definedMissing; a file may
+  // still bring it. Null for an empty name, and for a text style that isn't there.
   AcDbObjectId layer(std::string_view name) const;
   AcDbObjectId linetype(std::string_view name) const;
   AcDbObjectId textStyle(std::string_view name) const;
@@ -28,6 +29,9 @@ class DxfDecodeContext {
   // The number in a tag; one that is none (NaN, infinite, no digits) is reported and gives fallback.
   double real(const DxfTag& tag, double fallback = 0.0) const;
   long long integer(const DxfTag& tag, long long fallback = 0) const;
+
+  // Tells of a name that was used at a tag and had to be defined. The default writes to the message log.
+  virtual void definedMissing(const DxfTag& tag, const AcDbObjectId& record, const CString& what) const;
 
   // Tells of a repair at a tag. The default writes to the message log.
   virtual void repaired(const DxfTag& tag, const CString& what) const;
@@ -42,4 +46,5 @@ class DxfDecodeContext {
   AcDbDatabase& m_database;
   mutable Cache m_layers;
   mutable Cache m_linetypes;
+  mutable Cache m_blocks;
 };

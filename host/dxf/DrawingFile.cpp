@@ -1,0 +1,52 @@
+#include "host/dxf/DrawingFile.h"
+
+#include "host/afx/AtomicFile.h"
+#include "host/dxf/BinaryDxf.h"
+#include "host/dxf/DrawingReader.h"
+#include "host/dxf/FileEncoding.h"
+
+namespace {
+
+constexpr std::uint64_t kMaxFileSize = std::uint64_t{4} << 30;
+
+} // namespace
+
+dxf::ReadReport dxf::ReadDrawing(const CString& path, AcDbDatabase& database, const ReadOptions& options) {
+  std::string bytes;
+  const afx::FileResult file = afx::ReadWholeFile(path, bytes, kMaxFileSize);
+  if (!file.ok) return {false, file.message, {}};
+  return ReadDrawingBytes(std::move(bytes), path, database, options);
+}
+
+dxf::ReadReport dxf::ReadDrawingBytes(std::string bytes, const CString& name, AcDbDatabase& database,
+                                      const ReadOptions& options) {
+  ReadReport report;
+  CString trouble;
+  DrawingForm& form = database.form();
+  if (bytes.starts_with("AC10") && !bytes.starts_with("AC1009\n")) {
+    report.error = name + L"：这是 DWG 文件，请先转换为 DXF（可安装 dwg2dxf 或 ODA 转换器）";
+    return report;
+  }
+  if (isBinary(bytes)) {
+    TagText text = textFromBinary(bytes);
+    if (!text.error.IsEmpty() && !options.recover) {
+      report.error = name + L"：" + text.error;
+      return report;
+    }
+    trouble = text.error;
+    bytes = std::move(text.text);
+    form.binary = true;
+  }
+  DecodedFile decoded = decodeFile(std::move(bytes), form);
+  DrawingReader reader(database, std::make_shared<const std::string>(std::move(decoded.text)), options);
+  const CString error = reader.read();
+  if (!error.IsEmpty()) {
+    report.error = name + L"：" + error;
+    return report;
+  }
+  report.ok = true;
+  report.repairs = reader.takeRepairs();
+  for (const CString& note : {decoded.note, trouble})
+    if (!note.IsEmpty()) report.repairs.insert(report.repairs.begin(), Repair{0, -1, note});
+  return report;
+}

@@ -1,0 +1,240 @@
+#include "host/dxf/DrawingWriter.h"
+
+#include "host/afx/AtomicFile.h"
+#include "host/db/AcDbBlockTable.h"
+#include "host/db/AcDbEntity.h"
+#include "host/db/AcDbLayerTable.h"
+#include "host/db/DxfRecordEditor.h"
+#include "host/db/DxfText.h"
+#include "host/dxf/DrawingFile.h"
+#include "host/dxf/FileEncoding.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr std::string_view kSectionOrder[] = {"HEADER", "CLASSES", "TABLES", "BLOCKS", "ENTITIES", "OBJECTS"};
+
+std::string sectionHead(std::string_view name) {
+  return DxfRecordEditor::tag(0, "SECTION") + DxfRecordEditor::tag(2, name);
+}
+
+const AcDbBlockTableRecord* blockOf(const AcDbObjectId& id) {
+  return AcDbBlockTableRecord::cast(id.object());
+}
+
+} // namespace
+
+dxf::DrawingWriter::DrawingWriter(AcDbDatabase& database)
+    : m_database(database), m_form(database.form()), m_plain(isPlainForm(database.form())) {}
+
+void dxf::DrawingWriter::flush() {
+  if (m_plain)
+    m_out += m_pending;
+  else
+    m_out += encodeForFile(m_pending, m_form);
+  m_pending = {};
+}
+
+// Records that stood side by side in the file are copied in one piece.
+void dxf::DrawingWriter::put(std::string_view text) {
+  if (text.empty()) return;
+  if (!m_pending.empty() && m_pending.data() + m_pending.size() == text.data()) {
+    m_pending = {m_pending.data(), m_pending.size() + text.size()};
+    return;
+  }
+  flush();
+  m_pending = text;
+}
+
+void dxf::DrawingWriter::put(const AcDbObject& object) {
+  const std::string_view text = object.record().text();
+  put(text);
+  if (!text.empty() && text.back() != '\n') { // the last line of a file that was cut off behind it
+    flush();
+    m_out += m_form.crlf ? "\r\n" : "\n";
+  }
+}
+
+void dxf::DrawingWriter::putEntity(const AcDbEntity& entity) {
+  put(entity);
+  for (const AcDbObjectId& id : entity.subEntities())
+    if (!id.isErased()) put(*id.object());
+}
+
+// What no file held is written where the version asks for it.
+bool dxf::DrawingWriter::isWanted(const AcDbObject& object) const {
+  return !object.isErased() && (!object.isImplicit() || m_form.version >= "AC1015");
+}
+
+std::vector<DrawingForm::Section> dxf::DrawingWriter::sections() const {
+  std::vector<DrawingForm::Section> list = m_form.sections;
+  const auto indexIn = [](std::string_view name) {
+    return std::find(std::begin(kSectionOrder), std::end(kSectionOrder), name) - std::begin(kSectionOrder);
+  };
+  const auto need = [&](std::string_view name) {
+    if (std::any_of(list.begin(), list.end(), [&](const auto& section) { return section.name == name; }))
+      return;
+    auto at = list.begin();
+    for (auto it = list.begin(); it != list.end(); ++it)
+      if (indexIn(it->name) < indexIn(name)) at = it + 1;
+    DrawingForm::Section section;
+    section.name = name;
+    list.insert(at, section);
+  };
+  const auto anyRecord = [&](const AcDbObjectId& tableId) {
+    const auto* table = static_cast<const AcDbSymbolTable*>(tableId.object());
+    // Old drawings have no table of blocks.
+    if (table->recordType() == "BLOCK_RECORD" && !m_form.subclassMarkers()) return false;
+    const auto& records = table->records();
+    return std::any_of(records.begin(), records.end(),
+                       [&](const auto& id) { return isWanted(*id.object()); });
+  };
+  if (!m_database.header().record().isEmpty()) need("HEADER");
+  const auto& tables = m_database.tables();
+  if (std::any_of(tables.begin(), tables.end(), anyRecord)) need("TABLES");
+  const auto& blocks = m_database.tableOf("BLOCK_RECORD")->records();
+  if (std::any_of(blocks.begin(), blocks.end(), [&](const auto& id) {
+        const auto* block = blockOf(id);
+        if (!block || block->isErased()) return false;
+        return m_form.version >= "AC1015" || (!block->isLayout() && !block->entities().empty());
+      }))
+    need("BLOCKS");
+  need("ENTITIES");
+  const auto& objects = m_database.objects();
+  if (m_form.subclassMarkers() &&
+      std::any_of(objects.begin(), objects.end(), [&](const auto& id) { return isWanted(*id.object()); }))
+    need("OBJECTS");
+  return list;
+}
+
+std::string dxf::DrawingWriter::write() {
+  if (m_database.hasRenames())
+    for (const AcDbStub& stub : m_database.stubs())
+      if (stub.object->isKindOf(AcDbEntity::desc()) || stub.object->isKindOf(AcDbLayerTableRecord::desc()))
+        stub.object->invalidateRecord();
+  const auto list = sections();
+  std::vector<std::string> written;
+  put(m_form.preamble.text());
+  std::vector<std::string> heads; // made here, alive until they are flushed
+  heads.reserve(list.size());
+  for (const DrawingForm::Section& section : list) {
+    if (section.head.isEmpty()) put(heads.emplace_back(sectionHead(section.name)));
+    put(section.head.text());
+    // What a second section of a name held was taken into the first.
+    const bool again = std::find(written.begin(), written.end(), section.name) != written.end();
+    written.push_back(section.name);
+    if (!again) {
+      if (section.name == "HEADER")
+        writeHeader();
+      else if (section.name == "CLASSES")
+        for (const DxfRecord& record : m_form.classes) put(record.text());
+      else if (section.name == "TABLES")
+        writeTables();
+      else if (section.name == "BLOCKS")
+        writeBlocks();
+      else if (section.name == "ENTITIES")
+        writeEntities();
+      else if (section.name == "OBJECTS")
+        writeObjects();
+    }
+    put(section.body.text());
+    static const std::string endSection = DxfRecordEditor::tag(0, "ENDSEC");
+    put(section.tail.isEmpty() ? std::string_view(endSection) : section.tail.text());
+  }
+  static const std::string eof = DxfRecordEditor::tag(0, "EOF");
+  put(m_form.eof.isEmpty() ? std::string_view(eof) : m_form.eof.text());
+  flush();
+  return std::move(m_out);
+}
+
+void dxf::DrawingWriter::writeHeader() {
+  AcDbHeader& header = m_database.header();
+  const auto seed = header.text("$HANDSEED");
+  const AcDbHandle next = m_database.handseed();
+  const bool nothingAdded = !m_form.subclassMarkers() && next == m_form.seedAfterReading;
+  if (!seed || nothingAdded || AcDbHandle::fromHex(dxf::encodeText(*seed)) >= next) {
+    put(header.record().text());
+    return;
+  }
+  const std::string text =
+      AcDbHeader::withVariable(header.record().text(), "$HANDSEED", DxfRecordEditor::tag(5, next.toHex()));
+  put(text);
+  flush();
+}
+
+void dxf::DrawingWriter::writeTables() {
+  static const std::string endTable = DxfRecordEditor::tag(0, "ENDTAB");
+  for (const AcDbObjectId& id : m_database.tables()) {
+    const auto& table = *static_cast<const AcDbSymbolTable*>(id.object());
+    const auto& records = table.records();
+    const bool old = !m_form.subclassMarkers();
+    if (old && table.recordType() == "BLOCK_RECORD" && table.isImplicit()) continue;
+    const bool any =
+        std::any_of(records.begin(), records.end(), [&](const auto& r) { return isWanted(*r.object()); });
+    if (table.isImplicit() && !any && m_form.version < "AC1015") continue;
+    put(table);
+    for (const AcDbObjectId& record : records)
+      if (isWanted(*record.object())) put(*record.object());
+    put(table.endRecord().isEmpty() ? std::string_view(endTable) : table.endRecord().text());
+  }
+}
+
+void dxf::DrawingWriter::writeBlocks() {
+  std::vector<AcDbObjectId> order = m_form.blockOrder;
+  for (const AcDbObjectId& id : m_database.tableOf("BLOCK_RECORD")->records())
+    if (std::find(m_form.blockOrder.begin(), m_form.blockOrder.end(), id) == m_form.blockOrder.end())
+      order.push_back(id);
+  for (const AcDbObjectId& id : order) {
+    const AcDbBlockTableRecord* block = blockOf(id);
+    if (!block || block->isErased()) continue;
+    const bool stood = !block->blockBeginId().object()->isImplicit();
+    if (!stood && m_form.version < "AC1015" && (block->isLayout() || block->entities().empty())) continue;
+    writeBlock(*block);
+  }
+}
+
+void dxf::DrawingWriter::writeBlock(const AcDbBlockTableRecord& block) {
+  put(*block.blockBeginId().object());
+  // The entities of the two active spaces stand in ENTITIES.
+  if (!block.isModelSpace() && !block.isPaperSpace())
+    for (const AcDbObjectId& id : block.entities())
+      if (!id.isErased()) putEntity(static_cast<const AcDbEntity&>(*id.object()));
+  put(*block.blockEndId().object());
+}
+
+void dxf::DrawingWriter::writeEntities() {
+  static const std::vector<AcDbObjectId> none;
+  const auto entitiesOf = [](const AcDbObjectId& id) -> const std::vector<AcDbObjectId>& {
+    const AcDbBlockTableRecord* block = blockOf(id);
+    return block ? block->entities() : none;
+  };
+  const auto& model = entitiesOf(m_database.modelSpaceId());
+  const auto& paper = entitiesOf(m_database.paperSpaceId());
+  const auto entityAt = [](const AcDbObjectId& id) -> const AcDbEntity& {
+    return static_cast<const AcDbEntity&>(*id.object());
+  };
+  auto m = model.begin();
+  auto p = paper.begin();
+  while (m != model.end() || p != paper.end()) {
+    const bool takeModel =
+        p == paper.end() || (m != model.end() && entityAt(*m).rank() <= entityAt(*p).rank());
+    const AcDbObjectId id = takeModel ? *m++ : *p++;
+    if (!id.isErased()) putEntity(entityAt(id));
+  }
+}
+
+void dxf::DrawingWriter::writeObjects() {
+  for (const AcDbObjectId& id : m_database.objects())
+    if (isWanted(*id.object())) put(*id.object());
+}
+
+std::string dxf::WriteDrawingBytes(AcDbDatabase& database) {
+  database.completeBlocks();
+  return DrawingWriter(database).write();
+}
+
+dxf::WriteReport dxf::WriteDrawing(AcDbDatabase& database, const CString& path) {
+  const afx::FileResult result = afx::WriteFileAtomically(path, WriteDrawingBytes(database));
+  return {result.ok, result.message};
+}

@@ -1,0 +1,219 @@
+#include "host/dxf/FileEncoding.h"
+
+#include "host/afx/Encoding.h"
+#include "host/db/DxfTag.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdio>
+#include <cstring>
+
+namespace {
+
+// The code page of a drawing that names none: our users' own.
+constexpr const char* kDefaultCodePage = "ANSI_936";
+
+bool isAscii(std::string_view bytes) {
+  std::size_t i = 0;
+  for (; i + 8 <= bytes.size(); i += 8) {
+    std::uint64_t block;
+    std::memcpy(&block, bytes.data() + i, sizeof block);
+    if (block & 0x8080808080808080ull) return false;
+  }
+  for (; i < bytes.size(); ++i)
+    if (static_cast<unsigned char>(bytes[i]) >= 0x80) return false;
+  return true;
+}
+
+void dropCarriageReturns(std::string& text) {
+  char* out = text.data();
+  const char* in = text.data();
+  const char* const end = in + text.size();
+  while (in < end) {
+    const auto* cr = static_cast<const char*>(std::memchr(in, '\r', static_cast<std::size_t>(end - in)));
+    const char* stop = cr ? cr : end;
+    std::memmove(out, in, static_cast<std::size_t>(stop - in));
+    out += stop - in;
+    if (!cr) break;
+    in = cr + 1;
+    if (in < end && *in != '\n') *out++ = '\r';
+  }
+  text.resize(static_cast<std::size_t>(out - text.data()));
+}
+
+// Version and code page stand near the beginning; the rest of the file is not looked at.
+void readHeaderStrings(std::string_view text, DrawingForm& form, bool& hasCodePage) {
+  form.hasVersion = false;
+  hasCodePage = false;
+  std::string_view variable;
+  DxfTagReader reader(text);
+  int sections = 0;
+  for (DxfTag tag; reader.next(tag);) {
+    const std::string_view value = dxf::trimBlanks(tag.value);
+    if (tag.code == 0 && value == "SECTION" && ++sections == 2) break;
+    if (tag.code == 0 && value == "ENDSEC") break;
+    if (tag.code == 9) variable = value;
+    if (tag.code == 1 && variable == "$ACADVER") {
+      form.version = value;
+      form.hasVersion = true;
+    }
+    if (tag.code == 3 && variable == "$DWGCODEPAGE") {
+      form.codePage = value;
+      hasCodePage = true;
+    }
+  }
+  if (!form.hasVersion) form.version = "AC1009";
+}
+
+// A text in a double-byte code page can look like UTF-8 by chance, but then like characters of two bytes
+// only.
+bool looksLikeUtf8(std::string_view line) {
+  return afx::IsUtf8(line) &&
+         std::any_of(line.begin(), line.end(), [](char c) { return static_cast<unsigned char>(c) >= 0xE0; });
+}
+
+struct LineCounts {
+  std::size_t converted = 0; // from the code page
+  std::size_t utf8 = 0;
+  std::size_t kept = 0; // undecodable, kept as bytes
+};
+
+template <typename Convert> std::string byLines(std::string_view text, Convert convert) {
+  std::string out;
+  out.reserve(text.size() + text.size() / 8);
+  while (!text.empty()) {
+    const auto end = text.find('\n');
+    const std::string_view line = text.substr(0, end);
+    if (isAscii(line))
+      out += line;
+    else
+      convert(line, out);
+    if (end == text.npos) break;
+    out += '\n';
+    text.remove_prefix(end + 1);
+  }
+  return out;
+}
+
+std::string decodeLines(std::string_view text, const afx::CodePage& page, LineCounts& counts) {
+  return byLines(text, [&](std::string_view line, std::string& out) {
+    if (looksLikeUtf8(line)) {
+      ++counts.utf8;
+      out += line;
+      return;
+    }
+    const std::wstring wide = page.Decode(line);
+    const bool whole =
+        std::none_of(wide.begin(), wide.end(), [](wchar_t c) { return c >= 0xDC80 && c <= 0xDCFF; });
+    if (whole && page.Encode(wide) == line) {
+      ++counts.converted;
+      out += afx::WideToUtf8(wide);
+    } else {
+      ++counts.kept;
+      out += line;
+    }
+  });
+}
+
+void appendEscape(wchar_t c, std::string& out) {
+  char buffer[16];
+  const auto unit = [&](unsigned code) {
+    std::snprintf(buffer, sizeof buffer, "\\U+%04X", code);
+    out += buffer;
+  };
+  const auto code = static_cast<unsigned>(c);
+  if (code > 0xFFFF) {
+    unit(0xD800 + ((code - 0x10000) >> 10));
+    unit(0xDC00 + ((code - 0x10000) & 0x3FF));
+  } else {
+    unit(code);
+  }
+}
+
+} // namespace
+
+dxf::DecodedFile dxf::decodeFile(std::string bytes, DrawingForm& form) {
+  DecodedFile file;
+  if (bytes.starts_with("\xEF\xBB\xBF")) {
+    bytes.erase(0, 3);
+    file.note = L"文件开头的 UTF-8 字节顺序标记已去掉";
+  }
+  const auto firstEnd = bytes.find('\n');
+  form.crlf = firstEnd != bytes.npos && firstEnd > 0 && bytes[firstEnd - 1] == '\r';
+  if (std::memchr(bytes.data(), '\r', std::min<std::size_t>(bytes.size(), 1 << 16)) || form.crlf)
+    dropCarriageReturns(bytes);
+  bool hasCodePage = false;
+  readHeaderStrings(bytes, form, hasCodePage);
+  const bool unicodeVersion = form.version >= "AC1021";
+  form.utf8 = unicodeVersion;
+  const afx::CodePage* page = hasCodePage ? afx::CodePage::Find(form.codePage) : nullptr;
+  if (hasCodePage && !page && !unicodeVersion)
+    file.note.Format(L"代码页“%s”未知，按 %s 读入", CString::FromUtf8(form.codePage),
+                     CString::FromUtf8(kDefaultCodePage));
+  if (!page) page = afx::CodePage::Find(kDefaultCodePage);
+  if (!hasCodePage) form.codePage.clear();
+  if (isAscii(bytes)) {
+    file.text = std::move(bytes);
+    return file;
+  }
+  const bool strict = afx::IsUtf8(bytes);
+  if (strict && (unicodeVersion || looksLikeUtf8(bytes))) {
+    if (!unicodeVersion) file.note = L"文字实为 UTF-8，与文件头的代码页不符，按 UTF-8 读写";
+    form.utf8 = true;
+    file.text = std::move(bytes);
+    return file;
+  }
+  LineCounts counts;
+  file.text = decodeLines(bytes, *page, counts);
+  if (!hasCodePage && counts.converted > 0) form.codePage = page->Name();
+  if (unicodeVersion)
+    file.note.Format(L"%d 行文字不是 UTF-8，已按 %s 读入，将以 UTF-8 保存", counts.converted,
+                     CString::FromUtf8(page->Name()));
+  else if (counts.utf8 > 0)
+    file.note.Format(L"%d 行文字实为 UTF-8，将以 %s 保存", counts.utf8, CString::FromUtf8(page->Name()));
+  if (counts.kept > 0) file.note.AppendFormat(L"；%d 行含无法识别的字节，原样保留", counts.kept);
+  return file;
+}
+
+bool dxf::isPlainForm(const DrawingForm& form) {
+  return form.utf8 && !form.crlf;
+}
+
+std::string dxf::encodeForFile(std::string_view text, const DrawingForm& form) {
+  std::string encoded;
+  if (!form.utf8 && !isAscii(text)) {
+    // A drawing that names no code page gets escapes, which every reader understands.
+    const afx::CodePage* page = form.codePage.empty() ? nullptr : afx::CodePage::Find(form.codePage);
+    encoded = byLines(text, [&](std::string_view line, std::string& out) {
+      const std::wstring wide = afx::Utf8ToWide(line);
+      if (page) {
+        out += page->Encode(wide, appendEscape);
+        return;
+      }
+      for (const wchar_t c : wide) {
+        if (c < 0x80)
+          out += static_cast<char>(c);
+        else if (c >= 0xDC80 && c <= 0xDCFF)
+          out += static_cast<char>(c - 0xDC00);
+        else
+          appendEscape(c, out);
+      }
+    });
+  } else {
+    encoded = text;
+  }
+  if (!form.crlf) return encoded;
+  std::string lines;
+  lines.reserve(encoded.size() + encoded.size() / 8);
+  for (std::size_t start = 0; start < encoded.size();) {
+    const auto end = encoded.find('\n', start);
+    if (end == encoded.npos) {
+      lines.append(encoded, start);
+      break;
+    }
+    lines.append(encoded, start, end - start);
+    lines += "\r\n";
+    start = end + 1;
+  }
+  return lines;
+}

@@ -1,0 +1,27 @@
+// The bytes of a drawing file as the text that records are made of (UTF-8, lines ending in a line feed), and
+// back in the encoding that the file had.
+#pragma once
+
+#include "host/afx/CString.h"
+#include "host/db/DrawingForm.h"
+
+#include <string>
+#include <string_view>
+
+namespace dxf {
+
+struct DecodedFile {
+  std::string text;
+  CString note; // what was not as the header says; empty when all was well
+};
+
+// Sets version, code page, utf8 and crlf of form from the bytes. Text that contradicts the header is tried as
+// UTF-8 and then in the code page; bytes that neither explains are kept and written back.
+DecodedFile decodeFile(std::string bytes, DrawingForm& form);
+
+// A piece of record text for a file of that form. Whole tags only.
+std::string encodeForFile(std::string_view text, const DrawingForm& form);
+// Whether encodeForFile would give the same bytes for every text, so that nothing needs converting.
+bool isPlainForm(const DrawingForm& form);
+
+} // namespace dxf
