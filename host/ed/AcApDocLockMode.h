@@ -1,4 +1,5 @@
-// How a document may be locked. Locks nest and are counted; there is one thread, so a lock is never waited for.
+// How a document may be locked. Locks nest and are counted; there is one thread, so a lock is never waited
+// for.
 #pragma once
 
 namespace AcAp {

@@ -184,14 +184,18 @@ void AcApDocManager::addReactor(AcApDocManagerReactor* reactor) {
     m_reactors.push_back(reactor);
 }
 
-void AcApDocManager::removeReactor(AcApDocManagerReactor* reactor) { std::erase(m_reactors, reactor); }
+void AcApDocManager::removeReactor(AcApDocManagerReactor* reactor) {
+  std::erase(m_reactors, reactor);
+}
 
 AcApDocManager* acDocManagerPtr() {
   static auto* manager = new AcApDocManager; // never destroyed: plug-ins reach it from their own destructors
   return manager;
 }
 
-AcApDocument* curDoc() { return acDocManagerPtr()->curDocument(); }
+AcApDocument* curDoc() {
+  return acDocManagerPtr()->curDocument();
+}
 
 AcApDocumentIterator* AcApDocManager::newAcApDocumentIterator() const {
   return new AcApDocumentIterator(*this);

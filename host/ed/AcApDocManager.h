@@ -12,8 +12,9 @@
 class AcApDocumentIterator;
 
 class AcApDocManager {
-public:
-  // --- the documents ----------------------------------------------------------------------------------------
+ public:
+  // --- the documents
+  // ----------------------------------------------------------------------------------------
   AcApDocument* curDocument() const { return m_current; }
   AcApDocument* mdiActiveDocument() const { return m_current; }
   AcApDocument* document(const AcDbDatabase* database) const;
@@ -37,17 +38,19 @@ public:
   void closeAll();
   void titleChanged(AcApDocument& document);
 
-  // --- locks ------------------------------------------------------------------------------------------------
+  // --- locks
+  // ------------------------------------------------------------------------------------------------
   // eNoDocument, eInvalidInput for a mode that is none, eLockViolation when an observer refuses.
   Acad::ErrorStatus lockDocument(AcApDocument* document, AcAp::DocLockMode mode = AcAp::kWrite,
-                                 const wchar_t* globalCommand = nullptr, const wchar_t* localCommand = nullptr,
-                                 bool prompt = true);
+                                 const wchar_t* globalCommand = nullptr,
+                                 const wchar_t* localCommand = nullptr, bool prompt = true);
   // Takes the latest lock off. eNoDocument, eNotApplicable when there is none.
   Acad::ErrorStatus unlockDocument(AcApDocument* document);
 
-  // --- text for later ---------------------------------------------------------------------------------------
-  // Runs as if typed while the document is current, after the running command has returned. A blank or a line
-  // end is Enter. wrapUp asks for no more than the order of calls gives anyway. eNoDocument.
+  // --- text for later
+  // --------------------------------------------------------------------------------------- Runs as if typed
+  // while the document is current, after the running command has returned. A blank or a line end is Enter.
+  // wrapUp asks for no more than the order of calls gives anyway. eNoDocument.
   Acad::ErrorStatus sendStringToExecute(AcApDocument* document, const wchar_t* text, bool activate = true,
                                         bool wrapUp = false, bool echo = true);
   struct PendingText {
@@ -60,8 +63,9 @@ public:
   bool hasPendingText() const;
   void clearPendingText() { m_pending.clear(); }
 
-  // --- resources of the module whose code is running --------------------------------------------------------
-  // eInvalidInput is what popping an empty stack gives.
+  // --- resources of the module whose code is running
+  // -------------------------------------------------------- eInvalidInput is what popping an empty stack
+  // gives.
   Acad::ErrorStatus pushResourceHandle(void* resource);
   Acad::ErrorStatus popResourceHandle();
   std::size_t resourceDepth() const { return m_resources.size(); }
@@ -69,7 +73,7 @@ public:
   void addReactor(AcApDocManagerReactor* reactor);
   void removeReactor(AcApDocManagerReactor* reactor);
 
-private:
+ private:
   friend class AcApDocumentIterator;
   AcApDocument& add(std::unique_ptr<AcDbDatabase> database, const CString& fileName, const CString& title);
   void makeCurrent(AcApDocument* document);
@@ -87,13 +91,13 @@ private:
 
 // Walks the documents in the order in which they were opened.
 class AcApDocumentIterator {
-public:
+ public:
   explicit AcApDocumentIterator(const AcApDocManager& manager);
   bool done() const { return m_at >= m_documents.size(); }
   void step() { ++m_at; }
   AcApDocument* document() const { return done() ? nullptr : m_documents[m_at]; }
 
-private:
+ private:
   std::vector<AcApDocument*> m_documents;
   std::size_t m_at = 0;
 };

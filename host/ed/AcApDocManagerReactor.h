@@ -6,7 +6,7 @@
 class AcApDocument;
 
 class AcApDocManagerReactor {
-public:
+ public:
   virtual ~AcApDocManagerReactor() = default;
   virtual void documentCreated(AcApDocument*) {}
   // The document and its database are still whole.
@@ -22,7 +22,7 @@ public:
 
   void veto() { m_vetoed = true; }
 
-private:
+ private:
   friend class AcApDocManager;
   bool m_vetoed = false;
 };

@@ -8,8 +8,9 @@ ACRX_NO_CONS_DEFINE_MEMBERS(AcApDocument, AcRxObject)
 namespace {
 
 int strength(AcAp::DocLockMode mode) {
-  constexpr AcAp::DocLockMode order[] = {AcAp::kNone,               AcAp::kNotLocked, AcAp::kRead, AcAp::kAutoWrite,
-                                         AcAp::kProtectedAutoWrite, AcAp::kWrite,     AcAp::kXWrite};
+  constexpr AcAp::DocLockMode order[] = {AcAp::kNone,      AcAp::kNotLocked,          AcAp::kRead,
+                                         AcAp::kAutoWrite, AcAp::kProtectedAutoWrite, AcAp::kWrite,
+                                         AcAp::kXWrite};
   return static_cast<int>(std::find(std::begin(order), std::end(order), mode) - std::begin(order));
 }
 
@@ -28,7 +29,7 @@ void AcApDocument::setFileName(const CString& fileName) {
 }
 
 AcAp::DocLockMode AcApDocument::lockMode() const {
-  const auto strongest =
-      std::max_element(m_locks.begin(), m_locks.end(), [](auto a, auto b) { return strength(a) < strength(b); });
+  const auto strongest = std::max_element(m_locks.begin(), m_locks.end(),
+                                          [](auto a, auto b) { return strength(a) < strength(b); });
   return strongest == m_locks.end() ? AcAp::kNotLocked : *strongest;
 }

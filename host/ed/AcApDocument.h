@@ -13,7 +13,7 @@
 class AcApDocument : public AcRxObject {
   ACRX_DECLARE_MEMBERS(AcApDocument);
 
-public:
+ public:
   // An empty file name stands for a drawing that was never saved; the title is then what the user sees.
   AcApDocument(std::unique_ptr<AcDbDatabase> database, CString fileName, CString title);
   ~AcApDocument() override;
@@ -40,7 +40,7 @@ public:
   EditState& edit() { return m_edit; }
   const EditState& edit() const { return m_edit; }
 
-private:
+ private:
   friend class AcApDocManager;
   std::unique_ptr<AcDbDatabase> m_database;
   CString m_fileName;

@@ -17,7 +17,7 @@ inline constexpr unsigned ACRX_CMD_SESSION = 0x200000;          // about documen
 inline constexpr unsigned ACRX_CMD_NO_UNDO_MARKER = 0x1000000;  // no undo step of its own
 
 class AcEdCommand {
-public:
+ public:
   AcEdCommand(CString group, CString globalName, CString localName, unsigned flags, AcRxFunctionPtr function)
       : m_group(std::move(group)), m_global(std::move(globalName)), m_local(std::move(localName)),
         m_flags(flags), m_function(function) {}
@@ -29,7 +29,7 @@ public:
   AcRxFunctionPtr functionAddr() const { return m_function; }
   bool has(unsigned flag) const { return (m_flags & flag) != 0; }
 
-private:
+ private:
   CString m_group;
   CString m_global;
   CString m_local;

@@ -6,7 +6,9 @@ ACRX_NO_CONS_DEFINE_MEMBERS(AcEdCommandStack, AcRxObject)
 
 namespace {
 
-bool isUsableName(const CString& name) { return !name.IsEmpty() && name.FindOneOf(L" \t\r\n") < 0; }
+bool isUsableName(const CString& name) {
+  return !name.IsEmpty() && name.FindOneOf(L" \t\r\n") < 0;
+}
 
 bool answersTo(const AcEdCommand& command, const wchar_t* name) {
   return command.globalName().CompareNoCase(name) == 0 || command.localName().CompareNoCase(name) == 0;
@@ -47,8 +49,8 @@ Acad::ErrorStatus AcEdCommandStack::removeCmd(const wchar_t* group, const wchar_
 }
 
 Acad::ErrorStatus AcEdCommandStack::removeGroup(const wchar_t* group) {
-  const auto removed =
-      std::erase_if(m_groups, [&](const auto& candidate) { return candidate.name.CompareNoCase(group) == 0; });
+  const auto removed = std::erase_if(
+      m_groups, [&](const auto& candidate) { return candidate.name.CompareNoCase(group) == 0; });
   return removed ? Acad::eOk : Acad::eKeyNotFound;
 }
 

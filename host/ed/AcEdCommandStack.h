@@ -12,9 +12,9 @@
 class AcEdCommandStack : public AcRxObject {
   ACRX_DECLARE_MEMBERS(AcEdCommandStack);
 
-public:
-  // The group is made when there is none. eInvalidInput for an empty name, a name with a blank, or no function;
-  // eDuplicateKey when the group has the global or local name already.
+ public:
+  // The group is made when there is none. eInvalidInput for an empty name, a name with a blank, or no
+  // function; eDuplicateKey when the group has the global or local name already.
   Acad::ErrorStatus addCommand(const wchar_t* group, const wchar_t* globalName, const wchar_t* localName,
                                unsigned flags, AcRxFunctionPtr function);
   // eKeyNotFound for an unknown group or command.
@@ -29,7 +29,7 @@ public:
   // In the order in which they were added, group after group.
   std::vector<std::shared_ptr<const AcEdCommand>> commands() const;
 
-private:
+ private:
   struct Group {
     CString name;
     std::vector<std::shared_ptr<const AcEdCommand>> commands;

@@ -5,7 +5,7 @@
 #include "host/db/AcDbDatabaseReactor.h"
 
 class ChangeCounter : public AcDbDatabaseReactor {
-public:
+ public:
   explicit ChangeCounter(AcDbDatabase* database) : m_database(database) {
     if (m_database) m_database->addReactor(this);
   }
@@ -21,7 +21,7 @@ public:
   void objectErased(const AcDbDatabase*, const AcDbObject*, bool) override { m_changed = true; }
   void goodbye(const AcDbDatabase*) override { m_database = nullptr; }
 
-private:
+ private:
   AcDbDatabase* m_database;
   bool m_changed = false;
 };

@@ -27,7 +27,7 @@ struct EdRefusal {
 };
 
 class EdFrontEnd {
-public:
+ public:
   virtual ~EdFrontEnd() = default;
 
   // The next line that the user types, without its end; nothing when there is no more input. Shows the prompt

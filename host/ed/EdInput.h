@@ -18,7 +18,7 @@ struct EdLine {
 };
 
 class EdInput {
-public:
+ public:
   static constexpr std::size_t kMaxScripts = 8;
 
   void setFrontEnd(EdFrontEnd* frontEnd) { m_frontEnd = frontEnd; }
@@ -33,7 +33,8 @@ public:
   void dropFinished();
   void clear();
 
-  // The next line, shown as the answer to the prompt; nothing at the end of the input. A line that begins with
+  // The next line, shown as the answer to the prompt; nothing at the end of the input. A line that begins
+  // with
   // ";" is told to the user and passed over, except for free text.
   std::optional<EdLine> read(const CString& prompt, bool freeText = false);
   // The next line if it fits, and is left for the next reader otherwise.
@@ -41,7 +42,7 @@ public:
 
   const EdLine& last() const { return m_last; }
 
-private:
+ private:
   struct Fetched {
     EdLine line;
     bool echo = true;

@@ -17,7 +17,9 @@ CString leastOf(const CString& word) {
   return least.empty() ? word : CString(least);
 }
 
-bool sameText(std::wstring_view a, std::wstring_view b) { return afx::CompareNoCase(a, b) == 0; }
+bool sameText(std::wstring_view a, std::wstring_view b) {
+  return afx::CompareNoCase(a, b) == 0;
+}
 
 } // namespace
 

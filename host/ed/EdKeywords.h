@@ -9,9 +9,10 @@
 #include <vector>
 
 class EdKeywords {
-public:
+ public:
   EdKeywords() = default;
-  explicit EdKeywords(const CString& list);
+  EdKeywords(const CString& list);
+  EdKeywords(const wchar_t* list) : EdKeywords(CString(list)) {}
 
   bool isEmpty() const { return m_words.empty(); }
   // The keyword that was typed, in the program's spelling. A leading "_" is allowed.
@@ -19,7 +20,7 @@ public:
   // "L、A、U", for messages.
   CString text() const;
 
-private:
+ private:
   struct Word {
     CString word;
     CString least;

@@ -9,9 +9,13 @@
 namespace ed {
 namespace {
 
-CString trimmed(const CString& text) { return CString(text).Trim(); }
+CString trimmed(const CString& text) {
+  return CString(text).Trim();
+}
 
-bool sameText(const CString& a, std::wstring_view b) { return afx::CompareNoCase(a.View(), b) == 0; }
+bool sameText(const CString& a, std::wstring_view b) {
+  return afx::CompareNoCase(a.View(), b) == 0;
+}
 
 // The parts of a coordinate list, or nothing when one of them is no number or there are too many.
 std::optional<std::vector<double>> parseNumbers(const CString& text) {
@@ -37,7 +41,9 @@ std::optional<AcGeVector3d> parsePolar(const CString& text) {
   return AcGeVector3d(*distance * std::cos(angle), *distance * std::sin(angle), 0);
 }
 
-bool isFinite(const AcGePoint3d& p) { return std::isfinite(p.x) && std::isfinite(p.y) && std::isfinite(p.z); }
+bool isFinite(const AcGePoint3d& p) {
+  return std::isfinite(p.x) && std::isfinite(p.y) && std::isfinite(p.z);
+}
 
 std::vector<CString> words(const CString& line) {
   std::vector<CString> result;
@@ -60,7 +66,9 @@ constexpr SelectionWord kSelectionWords[] = {
 
 } // namespace
 
-bool IsCancelLine(const CString& line) { return sameText(trimmed(line), L"*cancel*"); }
+bool IsCancelLine(const CString& line) {
+  return sameText(trimmed(line), L"*cancel*");
+}
 
 std::optional<double> ParseReal(const CString& line) {
   const CString text = trimmed(line);

@@ -44,7 +44,8 @@ std::optional<SelectionLine> ParseSelection(const CString& line, const AcGePoint
 // A command's name without the marks "'", "_", "." before it, in capitals.
 CString CommandName(const CString& line);
 
-// A piece of foreign text as it may be shown in a message: control characters replaced, 60 characters at most.
+// A piece of foreign text as it may be shown in a message: control characters replaced, 60 characters at
+// most.
 CString Excerpt(const CString& text);
 
 } // namespace ed

@@ -12,7 +12,7 @@
 inline constexpr std::size_t kEdLineLimit = 64 * 1024;
 
 class EdLineSource {
-public:
+ public:
   virtual ~EdLineSource() = default;
   // The next line without its end; nothing behind the last one. tooLong is set for a line over the limit,
   // whose text is then cut.
@@ -28,7 +28,7 @@ public:
 
 // The lines of a script, which is UTF-8 or else GBK.
 class EdScriptSource : public EdLineSource {
-public:
+ public:
   EdScriptSource(CString name, std::string bytes, bool fallsThrough = true);
   std::optional<CString> next(bool& tooLong) override;
   bool atEnd() const override { return m_at >= m_bytes.size(); }
@@ -36,7 +36,7 @@ public:
   bool fallsThrough() const override { return m_fallsThrough; }
   bool isScript() const override { return true; }
 
-private:
+ private:
   CString m_name;
   std::string m_bytes;
   std::size_t m_at = 0;
@@ -46,7 +46,7 @@ private:
 
 // Answers given one by one, such as the arguments of acedCommandS.
 class EdAnswerSource : public EdLineSource {
-public:
+ public:
   explicit EdAnswerSource(std::deque<CString> answers, bool echo = true, bool fallsThrough = false)
       : m_answers(std::move(answers)), m_echo(echo), m_fallsThrough(fallsThrough) {}
   std::optional<CString> next(bool& tooLong) override;
@@ -58,7 +58,7 @@ public:
   // together. What follows the last of them is an answer too, unless it is empty.
   static std::deque<CString> split(const CString& text);
 
-private:
+ private:
   std::deque<CString> m_answers;
   bool m_echo;
   bool m_fallsThrough;

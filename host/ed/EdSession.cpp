@@ -41,13 +41,16 @@ void EdSession::refuse(const CString& reason, const CString& expected) {
   m_frontEnd->lineRefused({line.source, line.number, line.text, reason, expected});
 }
 
-EdSession::InitGet EdSession::takeInitGet() { return std::exchange(m_initGet, InitGet{}); }
+EdSession::InitGet EdSession::takeInitGet() {
+  return std::exchange(m_initGet, InitGet{});
+}
 
 void EdSession::noteInput(bool cancelled) {
   if (!m_running.empty()) m_running.back()->lastInputCancelled = cancelled;
 }
 
-// --- lines ------------------------------------------------------------------------------------------------------
+// --- lines
+// ------------------------------------------------------------------------------------------------------
 
 void EdSession::run() {
   while (!m_quit) {
@@ -77,8 +80,8 @@ void EdSession::runSentTexts() {
   }
 }
 
-// Text that was sent goes on top of all other input, in the order in which it was sent. It is bounded, since a
-// command can send its own name.
+// Text that was sent goes on top of all other input, in the order in which it was sent. It is bounded, since
+// a command can send its own name.
 bool EdSession::promoteSentText() {
   std::deque<CString> answers;
   bool echo = true;
@@ -108,7 +111,8 @@ void EdSession::obey(const CString& line) {
   runCommand(name);
 }
 
-// --- commands ---------------------------------------------------------------------------------------------------
+// --- commands
+// ---------------------------------------------------------------------------------------------------
 
 EdSession::Outcome EdSession::runCommand(const CString& name) {
   auto command = acedCommandStack()->lookupCmd(ed::CommandName(name));

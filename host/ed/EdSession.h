@@ -13,7 +13,7 @@ class AcApDocument;
 class EdFrontEnd;
 
 class EdSession {
-public:
+ public:
   static constexpr std::size_t kMaxNestedCommands = 16;
   // Texts that commands may send for later, one after the other, without the user typing anything.
   static constexpr int kMaxSentTexts = 1000;
@@ -63,7 +63,7 @@ public:
   void setLastKeyword(const CString& keyword) { m_keyword = keyword; }
   const CString& lastKeyword() const { return m_keyword; }
 
-private:
+ private:
   struct Running {
     std::shared_ptr<const AcEdCommand> command;
     AcApDocument* document = nullptr; // the one it holds a lock on
