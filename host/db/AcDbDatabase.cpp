@@ -189,7 +189,8 @@ std::vector<CString> AcDbDatabase::completeStandardEntries() {
   ensure("STYLE", L"Standard", addStandard<AcDbTextStyleTableRecord>);
   ensure("APPID", L"ACAD", addStandard<AcDbRegAppTableRecord>);
   // A drawing may do with dimension styles of its own.
-  if (tableOf("DIMSTYLE")->records().empty()) ensure("DIMSTYLE", L"Standard", addStandard<AcDbDimStyleTableRecord>);
+  if (tableOf("DIMSTYLE")->records().empty())
+    ensure("DIMSTYLE", L"Standard", addStandard<AcDbDimStyleTableRecord>);
   ensure("BLOCK_RECORD", ACDB_MODEL_SPACE, addStandard<AcDbBlockTableRecord>);
   ensure("BLOCK_RECORD", ACDB_PAPER_SPACE, addStandard<AcDbBlockTableRecord>);
   if (m_namedObjects.isNull()) {

@@ -22,9 +22,10 @@ struct DrawingForm {
   // record, a whole section that the host doesn't know) is kept as it stood.
   struct Section {
     std::string name;
-    DxfRecord head; // from "0 SECTION" to the first record
-    DxfRecord body; // of sections that are kept whole
-    DxfRecord tail; // from "0 ENDSEC" to the next section
+    std::uint32_t firstRank = 0; // of the entities of an ENTITIES section; a damaged file has several
+    DxfRecord head;              // from "0 SECTION" to the first record
+    DxfRecord body;              // of sections that are kept whole
+    DxfRecord tail;              // from "0 ENDSEC" to the next section
   };
   std::vector<Section> sections;
   // The next free handle when reading had ended. Old drawings may go without handles in the file: as long as

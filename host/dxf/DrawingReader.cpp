@@ -9,6 +9,8 @@
 #include "host/db/DxfRecordEditor.h"
 #include "host/db/DxfText.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr std::size_t kRecordsBetweenProgress = 4096;
@@ -96,13 +98,7 @@ CString dxf::DrawingReader::read() {
       eof = true;
       break;
     }
-    const DxfTag& tag = m_scanner.tags().front();
-    if (!m_options.recover) {
-      m_error.Format(L"第 %d 行：应为 SECTION 或 EOF，实际为“%s”", m_scanner.lineOf(tag.value.data()),
-                     decodeText(tag.value).Left(40));
-      break;
-    }
-    m_context.repaired(tag, L"不在任何段内的记录已丢弃");
+    keepStrayRecord();
     any = nextRecord();
   }
   if (m_error.IsEmpty() && form.sections.empty()) m_error = L"不是 DXF 图形文件：没有任何段（SECTION）";
@@ -118,6 +114,17 @@ CString dxf::DrawingReader::read() {
   return m_error;
 }
 
+// What stands between sections is kept with what closes the section before it.
+void dxf::DrawingReader::keepStrayRecord() {
+  DrawingForm& form = m_database.form();
+  const DxfTag& tag = m_scanner.tags().front();
+  m_context.repaired(tag, quoted(L"记录“%s”不在任何段内，原样保留", decodeText(tag.value).Left(40)));
+  DxfRecord& before = form.sections.empty() ? form.preamble : form.sections.back().tail;
+  const std::string_view stray = m_scanner.recordText();
+  const char* begin = before.isEmpty() ? stray.data() : before.text().data();
+  before = DxfRecord::partOf(m_text, {begin, static_cast<std::size_t>(stray.data() + stray.size() - begin)});
+}
+
 void dxf::DrawingReader::readSection() {
   const DxfTags tags = m_scanner.tags();
   DrawingForm& form = m_database.form();
@@ -125,9 +132,8 @@ void dxf::DrawingReader::readSection() {
   DrawingForm::Section& section = form.sections.back();
   const CString name = nameOf(tags);
   section.name = name.ToUtf8();
-  for (std::size_t i = 0; i + 1 < form.sections.size(); ++i)
-    if (form.sections[i].name == section.name)
-      m_context.repaired(tags.front(), quoted(L"段“%s”重复，内容并入前一个", name));
+  section.firstRank = m_rank + 1;
+  if (++m_sectionCounts[section.name] == 2) m_context.repaired(tags.front(), quoted(L"段“%s”重复出现", name));
   if (section.name == "HEADER") {
     readHeader(section);
   } else {
@@ -196,8 +202,7 @@ void dxf::DrawingReader::readTables() {
   std::vector<AcDbObjectId> order;
   while (more && !atSectionEnd()) {
     if (m_scanner.type() != "TABLE") {
-      m_context.repaired(m_scanner.tags().front(), L"不在任何表内的表项，已并入所属的表");
-      if (AcDbSymbolTable* table = m_database.tableOf(m_scanner.type())) readTableEntry(*table);
+      readStrayTableEntry();
       more = nextRecord();
       continue;
     }
@@ -214,6 +219,20 @@ void dxf::DrawingReader::readTables() {
   for (const AcDbObjectId& id : tables)
     if (std::find(order.begin(), order.end(), id) == order.end()) order.push_back(id);
   if (order.size() == tables.size()) tables = order;
+}
+
+void dxf::DrawingReader::readStrayTableEntry() {
+  const DxfTag& tag = m_scanner.tags().front();
+  if (AcDbSymbolTable* table = m_database.tableOf(m_scanner.type())) {
+    m_context.repaired(tag, L"表项不在任何表内，已并入所属的表");
+    readTableEntry(*table);
+  } else if (m_scanner.type() == "ENDTAB" || m_options.recover) {
+    m_context.repaired(tag, quoted(L"多余的“%s”已丢弃", decodeText(tag.value).Left(40)));
+  } else {
+    m_error.Format(L"第 %d 行：应为 TABLE 或 ENDSEC，实际为“%s”", m_scanner.lineOf(tag.value.data()),
+                   decodeText(tag.value).Left(40));
+    m_ended = true;
+  }
 }
 
 void dxf::DrawingReader::readTable() {
@@ -311,6 +330,7 @@ void dxf::DrawingReader::readBlock() {
   const CString name = AcDbBlockBegin::nameIn(m_scanner.tags());
   AcDbBlockTableRecord& block = blockNamed(name);
   m_database.form().blockOrder.push_back(block.objectId());
+  m_context.defined(block.objectId());
   m_parent = nullptr;
   auto* begin = new AcDbBlockBegin;
   m_database.addAcDbObject(begin, block.objectId());
@@ -469,6 +489,7 @@ void dxf::DrawingReader::finish() {
   const bool needsStandardEntries = m_database.form().version >= "AC1015";
   for (const CString& added : m_database.completeStandardEntries())
     if (needsStandardEntries) m_context.repairedAt(nullptr, -1, quoted(L"缺少标准表项 %s，已补上", added));
+  m_database.completeBlocks();
   for (const AcDbObjectId& id : m_database.form().blockOrder) {
     const auto* block = static_cast<const AcDbBlockTableRecord*>(id.object());
     for (const AcDbObjectId& inner : block->entities()) {

@@ -4,6 +4,8 @@
 #include "host/db/AcDbDatabase.h"
 #include "host/dxf/ReadContext.h"
 
+#include <map>
+
 class AcDbBlockTableRecord;
 class AcDbEntity;
 class AcDbSymbolTable;
@@ -27,10 +29,12 @@ class DrawingReader {
   void decodeInto(AcDbObject& object);
 
   void readSection();
+  void keepStrayRecord();
   void readHeader(DrawingForm::Section& section);
   void readClasses();
   void readTables();
   void readTable();
+  void readStrayTableEntry();
   void readTableEntry(AcDbSymbolTable& table);
   void readBlocks();
   void readBlock();
@@ -56,6 +60,7 @@ class DrawingReader {
   AcDbEntity* m_parent = nullptr; // that sub-entities go to
   bool m_parentHasChildren = false;
   std::uint32_t m_rank = 0;
+  std::map<std::string, int> m_sectionCounts;
   std::size_t m_withoutHandle = 0;
   std::size_t m_recordCount = 0;
 };

@@ -118,25 +118,19 @@ std::string dxf::DrawingWriter::write() {
   put(m_form.preamble.text());
   std::vector<std::string> heads; // made here, alive until they are flushed
   heads.reserve(list.size());
-  for (const DrawingForm::Section& section : list) {
+  for (std::size_t i = 0; i < list.size(); ++i) {
+    const DrawingForm::Section& section = list[i];
     if (section.head.isEmpty()) put(heads.emplace_back(sectionHead(section.name)));
     put(section.head.text());
-    // What a second section of a name held was taken into the first.
-    const bool again = std::find(written.begin(), written.end(), section.name) != written.end();
-    written.push_back(section.name);
-    if (!again) {
-      if (section.name == "HEADER")
-        writeHeader();
-      else if (section.name == "CLASSES")
-        for (const DxfRecord& record : m_form.classes) put(record.text());
-      else if (section.name == "TABLES")
-        writeTables();
-      else if (section.name == "BLOCKS")
-        writeBlocks();
-      else if (section.name == "ENTITIES")
-        writeEntities();
-      else if (section.name == "OBJECTS")
-        writeObjects();
+    // Entities go to the section that they came from, the new ones to the last; what a second section of
+    // another name held was taken into the first.
+    if (section.name == "ENTITIES") {
+      const auto next = std::find_if(list.begin() + static_cast<std::ptrdiff_t>(i) + 1, list.end(),
+                                     [](const auto& other) { return other.name == "ENTITIES"; });
+      writeEntities(next == list.end() ? ~std::uint32_t{0} : next->firstRank);
+    } else if (std::find(written.begin(), written.end(), section.name) == written.end()) {
+      written.push_back(section.name);
+      writeSection(section.name);
     }
     put(section.body.text());
     static const std::string endSection = DxfRecordEditor::tag(0, "ENDSEC");
@@ -146,6 +140,15 @@ std::string dxf::DrawingWriter::write() {
   put(m_form.eof.isEmpty() ? std::string_view(eof) : m_form.eof.text());
   flush();
   return std::move(m_out);
+}
+
+void dxf::DrawingWriter::writeSection(std::string_view name) {
+  if (name == "HEADER") writeHeader();
+  if (name == "CLASSES")
+    for (const DxfRecord& record : m_form.classes) put(record.text());
+  if (name == "TABLES") writeTables();
+  if (name == "BLOCKS") writeBlocks();
+  if (name == "OBJECTS") writeObjects();
 }
 
 void dxf::DrawingWriter::writeHeader() {
@@ -203,7 +206,7 @@ void dxf::DrawingWriter::writeBlock(const AcDbBlockTableRecord& block) {
   put(*block.blockEndId().object());
 }
 
-void dxf::DrawingWriter::writeEntities() {
+void dxf::DrawingWriter::writeEntities(std::uint32_t endRank) {
   static const std::vector<AcDbObjectId> none;
   const auto entitiesOf = [](const AcDbObjectId& id) -> const std::vector<AcDbObjectId>& {
     const AcDbBlockTableRecord* block = blockOf(id);
@@ -214,14 +217,18 @@ void dxf::DrawingWriter::writeEntities() {
   const auto entityAt = [](const AcDbObjectId& id) -> const AcDbEntity& {
     return static_cast<const AcDbEntity&>(*id.object());
   };
-  auto m = model.begin();
-  auto p = paper.begin();
+  auto m = model.begin() + static_cast<std::ptrdiff_t>(m_modelWritten);
+  auto p = paper.begin() + static_cast<std::ptrdiff_t>(m_paperWritten);
   while (m != model.end() || p != paper.end()) {
     const bool takeModel =
         p == paper.end() || (m != model.end() && entityAt(*m).rank() <= entityAt(*p).rank());
-    const AcDbObjectId id = takeModel ? *m++ : *p++;
+    const AcDbObjectId id = takeModel ? *m : *p;
+    if (entityAt(id).rank() >= endRank) break;
+    ++(takeModel ? m : p);
     if (!id.isErased()) putEntity(entityAt(id));
   }
+  m_modelWritten = static_cast<std::size_t>(m - model.begin());
+  m_paperWritten = static_cast<std::size_t>(p - paper.begin());
 }
 
 void dxf::DrawingWriter::writeObjects() {

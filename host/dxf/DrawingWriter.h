@@ -25,11 +25,13 @@ class DrawingWriter {
   void putEntity(const AcDbEntity& entity);
   bool isWanted(const AcDbObject& object) const;
 
+  void writeSection(std::string_view name);
   void writeHeader();
   void writeTables();
   void writeBlocks();
   void writeBlock(const AcDbBlockTableRecord& block);
-  void writeEntities();
+  // Those ranked below endRank that are not written yet.
+  void writeEntities(std::uint32_t endRank);
   void writeObjects();
   void flush();
 
@@ -37,6 +39,8 @@ class DrawingWriter {
   const DrawingForm& m_form;
   std::string m_out;
   std::string_view m_pending; // adjoining text that is not copied yet
+  std::size_t m_modelWritten = 0;
+  std::size_t m_paperWritten = 0;
   bool m_plain;
 };
 

@@ -166,7 +166,7 @@ dxf::DecodedFile dxf::decodeFile(std::string bytes, DrawingForm& form) {
   LineCounts counts;
   file.text = decodeLines(bytes, *page, counts);
   if (!hasCodePage && counts.converted > 0) form.codePage = page->Name();
-  if (unicodeVersion)
+  if (unicodeVersion && counts.converted > 0)
     file.note.Format(L"%d 行文字不是 UTF-8，已按 %s 读入，将以 UTF-8 保存", counts.converted,
                      CString::FromUtf8(page->Name()));
   else if (counts.utf8 > 0)

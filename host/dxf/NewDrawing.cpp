@@ -1,5 +1,5 @@
-// The drawing that NEW begins with: millimetres, ISO A3 layout, code page of our users, and no more objects than
-// other programs ask of a file.
+// The drawing that NEW begins with: millimetres, ISO A3 layout, code page of our users, and no more objects
+// than other programs ask of a file.
 #include "host/db/AcDbDatabase.h"
 #include "host/db/DxfRecordEditor.h"
 #include "host/dxf/DrawingFile.h"

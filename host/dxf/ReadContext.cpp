@@ -35,6 +35,10 @@ void dxf::ReadContext::definedMissing(const DxfTag& tag, const AcDbObjectId& rec
   m_missing.push_back({{m_scanner.lineOf(tag.value.data()), tag.code, what}, record});
 }
 
+void dxf::ReadContext::defined(const AcDbObjectId& record) {
+  std::erase_if(m_missing, [&](const Missing& missing) { return missing.record == record; });
+}
+
 std::vector<dxf::Repair> dxf::ReadContext::takeRepairs() {
   for (Missing& missing : m_missing)
     if (missing.record.object()->isImplicit() && missing.repair.line > 0) m_repairs.push_back(missing.repair);

@@ -17,6 +17,8 @@ class ReadContext : public DxfDecodeContext {
 
   void repaired(const DxfTag& tag, const CString& what) const override;
   void definedMissing(const DxfTag& tag, const AcDbObjectId& record, const CString& what) const override;
+  // The file brings the record after all.
+  void defined(const AcDbObjectId& record);
   // A repair at a place of the text (null: of none).
   void repairedAt(const char* place, int groupCode, const CString& what) const;
 
