@@ -31,6 +31,10 @@ class AcApDocument : public AcRxObject {
   // No command is running and nobody holds a lock.
   bool isQuiescent() const { return m_locks.empty(); }
 
+  // The file on the disk holds more than could be recovered from it: it is copied before a save replaces it.
+  bool rescueBeforeSave() const { return m_rescueBeforeSave; }
+  void setRescueBeforeSave(bool rescue) { m_rescueBeforeSave = rescue; }
+
   // What prompts and selections remember.
   struct EditState {
     AcGePoint3d lastPoint;
@@ -47,4 +51,5 @@ class AcApDocument : public AcRxObject {
   CString m_title;
   std::vector<AcAp::DocLockMode> m_locks;
   EditState m_edit;
+  bool m_rescueBeforeSave = false;
 };

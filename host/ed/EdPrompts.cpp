@@ -42,6 +42,7 @@ Answer ask(const Question& question, const wchar_t* form, const Reader& read, bo
   Answer answer;
   while (true) {
     const auto line = session.input().read(promptText(question.prompt), freeText);
+    if (!line) PrintInputEnd(question.prompt);
     if (!line || IsCancelLine(line->text)) {
       PrintCancelled();
       answer.status = Status::cancelled;
@@ -79,6 +80,10 @@ std::optional<CString> signProblem(double value, int flags) {
 constexpr wchar_t kPointForm[] = L"点 x,y 或 x,y,z 或 @dx,dy";
 
 } // namespace
+
+void PrintInputEnd(const CString& prompt) {
+  EdSession::instance().print(L"\n" + promptText(prompt) + L"（输入已结束）\n");
+}
 
 void PrintCancelled() {
   EdSession::instance().print(L"\n*取消*\n");

@@ -51,6 +51,8 @@ Answer AskKeyword(const Question& question);
 // One entity, by a point on it or by "#HANDLE". The point is the one typed, or the origin.
 Answer AskEntity(const Question& question);
 
+// Tells the user that a prompt found no line to answer it.
+void PrintInputEnd(const CString& prompt);
 // Tells the user that the running command was given up.
 void PrintCancelled();
 

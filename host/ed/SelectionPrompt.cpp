@@ -123,6 +123,7 @@ SelectionAnswer AskSelection(const SelectionQuestion& question, const SelectionF
   prompt.TrimLeft(L"\n");
   while (true) {
     const auto line = session.input().read(prompt);
+    if (!line) PrintInputEnd(prompt);
     if (!line || IsCancelLine(line->text)) {
       PrintCancelled();
       answer.cancelled = true;

@@ -1,0 +1,85 @@
+// NEW, OPEN, RECOVER, SAVE, SAVEAS, CLOSE and QUIT.
+#include "host/commands/CommandFunctions.h"
+#include "host/commands/DrawingFiles.h"
+#include "host/ed/AcApDocManager.h"
+#include "host/ed/EdFrontEnd.h"
+#include "host/ed/EdPrompts.h"
+#include "host/ed/EdSession.h"
+#include "host/ed/acutPrintf.h"
+
+#include <memory>
+
+namespace commands {
+namespace {
+
+void openAsked(bool recover) {
+  const auto answer = ed::AskText({L"输入图形文件名:", {}, RSG_NONULL, {}});
+  if (answer.hasValue()) OpenDrawing(CString(answer.text).Trim(), recover);
+}
+
+CString unsavedTitles() {
+  CString titles;
+  const std::unique_ptr<AcApDocumentIterator> documents(acDocManager->newAcApDocumentIterator());
+  for (; !documents->done(); documents->step()) {
+    if (!documents->document()->database()->isModified()) continue;
+    if (!titles.IsEmpty()) titles += L"、";
+    titles += documents->document()->docTitle();
+  }
+  return titles;
+}
+
+// Losing work must be asked for: the default keeps it.
+bool mayLose(const CString& titles, const wchar_t* question, const wchar_t* command) {
+  auto* frontEnd = EdSession::instance().frontEnd();
+  if (titles.IsEmpty()) return true;
+  const CString text = L"图形“" + titles + L"”有未保存的修改。" + question;
+  if (frontEnd && frontEnd->messageBox({L"zpcad", text, {L"是(Y)", L"否(N)"}, 1}) == 0) return true;
+  EdSession::instance().refuse(CString(L"有未保存的修改，未执行 ") + command + L"。",
+                               CString(L"先 SAVE；或在 ") + command + L" 的下一行写 answer 是");
+  return false;
+}
+
+} // namespace
+
+void New() {
+  const auto& document = acDocManager->newDocument();
+  acutPrintf(L"\n新建 %s\n", document.docTitle());
+}
+
+void Open() {
+  openAsked(false);
+}
+
+void Recover() {
+  openAsked(true);
+}
+
+void Save() {
+  SaveDrawing(*curDoc());
+}
+
+void SaveAs() {
+  SaveDrawingAs(*curDoc());
+}
+
+void Close() {
+  auto* document = curDoc();
+  if (!document) {
+    EdSession::instance().refuse(L"没有打开的图形。");
+    return;
+  }
+  const CString title = document->docTitle();
+  if (document->database()->isModified() && !mayLose(title, L"放弃修改并关闭吗？", L"CLOSE")) return;
+  if (acDocManager->closeDocument(document) != Acad::eOk) {
+    EdSession::instance().refuse(L"图形“" + title + L"”正被使用，不能关闭。");
+    return;
+  }
+  acutPrintf(L"\n已关闭 %s\n", title);
+  if (const auto* next = curDoc()) acutPrintf(L"\n当前图形：%s\n", next->docTitle());
+}
+
+void Quit() {
+  if (mayLose(unsavedTitles(), L"放弃修改并退出吗？", L"QUIT")) EdSession::instance().requestQuit();
+}
+
+} // namespace commands

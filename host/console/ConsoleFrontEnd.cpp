@@ -1,0 +1,96 @@
+#include "host/console/ConsoleFrontEnd.h"
+
+#include "host/ed/EdLineParser.h"
+#include "host/ed/EdLineSource.h"
+#include "host/ed/EdSession.h"
+
+#include <istream>
+#include <ostream>
+#include <string>
+
+void ConsoleFrontEnd::write(const CString& text) {
+  if (text.IsEmpty()) return;
+  m_out << text.ToUtf8();
+  m_atLineStart = text.View().back() == L'\n';
+}
+
+void ConsoleFrontEnd::freshLine() {
+  if (!m_atLineStart) write(L"\n");
+}
+
+void ConsoleFrontEnd::print(const CString& text) {
+  if (text.IsEmpty()) return;
+  if (text.View().front() == L'\n') {
+    freshLine();
+    write(text.Mid(1));
+  } else {
+    write(text);
+  }
+}
+
+std::optional<CString> ConsoleFrontEnd::readLine(const CString& prompt) {
+  if (m_interactive) {
+    freshLine();
+    write(prompt + L" ");
+  }
+  m_out.flush();
+  // One byte more than a line may have tells a long line from one that just fits; the rest of it is passed
+  // over.
+  std::string line;
+  bool any = false;
+  for (int c = m_in.get(); c != std::istream::traits_type::eof(); c = m_in.get()) {
+    any = true;
+    if (c == '\n') break;
+    if (line.size() <= kEdLineLimit) line.push_back(static_cast<char>(c));
+  }
+  if (!any) return std::nullopt;
+  if (m_interactive) m_atLineStart = true;
+  if (line.ends_with('\r')) line.pop_back();
+  return CString::FromUtf8(line);
+}
+
+void ConsoleFrontEnd::echo(const CString& prompt, const CString& line, bool typed) {
+  if (typed && m_interactive) return;
+  freshLine();
+  write((prompt.IsEmpty() ? CString() : prompt + L" ") + line + L"\n");
+}
+
+std::size_t ConsoleFrontEnd::messageBox(const EdMessageBox& box) {
+  freshLine();
+  write(L"[" + box.caption + L"] " + box.text + L"\n");
+  const CString& otherwise = box.buttons[box.defaultButton];
+  // A person need not confirm what leaves no choice.
+  if (m_interactive && box.buttons.size() == 1) return box.defaultButton;
+  CString prompt;
+  for (const auto& button : box.buttons) prompt += (prompt.IsEmpty() ? L"" : L"/") + button;
+  prompt += L" <" + otherwise + L">:";
+  auto& session = EdSession::instance();
+  const auto isAnswer = [&](const CString& line) {
+    return ed::ParseAnswer(line) || ed::FindButton(box.buttons, CString(line).Trim());
+  };
+  while (const auto line = session.input().readIf(prompt, isAnswer)) {
+    const CString text = CString(line->text).Trim();
+    if (const auto button = ed::FindButton(box.buttons, ed::ParseAnswer(text).value_or(text))) return *button;
+    session.refuse(L"没有按钮“" + ed::Excerpt(*ed::ParseAnswer(text)) + L"”。", L"answer 加 " + prompt);
+  }
+  freshLine();
+  write(L"（未回答，取默认按钮“" + otherwise + L"”）\n");
+  return box.defaultButton;
+}
+
+void ConsoleFrontEnd::lineRefused(const EdRefusal& refusal) {
+  freshLine();
+  write(refusal.reason + L"\n");
+  if (refusal.number == 0) return;
+  CString where;
+  where.Format(L"第 %d 行", refusal.number);
+  if (!refusal.source.IsEmpty()) where = refusal.source + L" " + where;
+  write(L"** " + where + L"“" + ed::Excerpt(refusal.line) + L"”未执行。");
+  if (!refusal.expected.IsEmpty()) write(L"应为：" + refusal.expected + L"。");
+  write(L"\n");
+}
+
+void ConsoleFrontEnd::finish() {
+  freshLine();
+  m_out.flush();
+}

@@ -1,0 +1,34 @@
+// The editor at a terminal or in a pipe: lines in, text out, UTF-8 both ways. What comes from a script or a
+// pipe is shown behind its prompt, so that the output reads like a session.
+#pragma once
+
+#include "host/ed/EdFrontEnd.h"
+
+#include <iosfwd>
+
+class ConsoleFrontEnd : public EdFrontEnd {
+ public:
+  // interactive: a person types at a terminal, which shows the typed lines itself.
+  ConsoleFrontEnd(std::istream& in, std::ostream& out, bool interactive)
+      : m_in(in), m_out(out), m_interactive(interactive) {}
+
+  std::optional<CString> readLine(const CString& prompt) override;
+  void echo(const CString& prompt, const CString& line, bool typed) override;
+  // A line end at the beginning of a text only makes sure that the text begins a line.
+  void print(const CString& text) override;
+  // Prints "[CAPTION] text". The next line answers when it is "answer BUTTON" or names a button; otherwise
+  // the default button is taken and the line left where it is.
+  std::size_t messageBox(const EdMessageBox& box) override;
+  void lineRefused(const EdRefusal& refusal) override;
+  // Ends an open line and hands everything to the system.
+  void finish();
+
+ private:
+  void write(const CString& text);
+  void freshLine();
+
+  std::istream& m_in;
+  std::ostream& m_out;
+  bool m_interactive;
+  bool m_atLineStart = true;
+};
