@@ -124,6 +124,7 @@ void AcDbObject::dxfOutFields(DxfRecordEditor&) const {}
 void AcDbObject::dxfOutHead(DxfRecordEditor& editor, std::string_view type, int handleCode) const {
   const bool newRecord = m_record.isEmpty();
   editor.type(type);
+  if (!m_stub) return; // no handle outside a drawing
   // Old drawings may go without handles: what was read without one stays without.
   if (newRecord || database()->form().subclassMarkers()) {
     editor.handle(handleCode, handle());

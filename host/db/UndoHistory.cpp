@@ -15,8 +15,8 @@ void UndoHistory::endCommand() {
   // Opened for write but not changed is no change.
   std::erase_if(m_current.changes, [](const Change& change) {
     const AcDbObject* object = change.id.object();
-    return object->isErased() == change.erased && object->ownerId() == change.owner &&
-           object->record().text() == change.record.text();
+    return object->isErased() == change.erased && object->ownerId() == change.owner && change.record &&
+           object->record().text() == change.record->text();
   });
   m_seen.clear();
   if (m_current.changes.empty()) return;
@@ -73,7 +73,7 @@ void UndoHistory::recordBefore(AcDbObject& object) {
 
 void UndoHistory::recordAppended(AcDbObject& object) {
   if (m_depth == 0 || !m_seen.insert(object.objectId()).second) return;
-  m_current.changes.push_back({object.objectId(), {}, object.ownerId(), true});
+  m_current.changes.push_back({object.objectId(), std::nullopt, object.ownerId(), true});
 }
 
 // Brings back the state that the step holds and returns the state that was there.
@@ -93,7 +93,7 @@ UndoHistory::Step UndoHistory::exchange(const Step& step) {
   const DxfDecodeContext context(m_database);
   for (const Change& change : step.changes) {
     AcDbObject& object = *change.id.object();
-    if (!change.record.isEmpty()) object.setRecord(change.record, context);
+    if (change.record) object.setRecord(*change.record, context);
     m_database.afterChange(object);
   }
   opposite.bytes = bytesOf(opposite);
@@ -102,7 +102,8 @@ UndoHistory::Step UndoHistory::exchange(const Step& step) {
 
 std::size_t UndoHistory::bytesOf(const Step& step) {
   std::size_t bytes = sizeof(Step) + step.changes.size() * sizeof(Change);
-  for (const Change& change : step.changes) bytes += change.record.ownBytes();
+  for (const Change& change : step.changes)
+    if (change.record) bytes += change.record->ownBytes();
   return bytes;
 }
 

@@ -9,6 +9,7 @@
 
 #include <cstddef>
 #include <deque>
+#include <optional>
 #include <unordered_set>
 #include <vector>
 
@@ -43,7 +44,7 @@ class UndoHistory {
  private:
   struct Change {
     AcDbObjectId id;
-    DxfRecord record;
+    std::optional<DxfRecord> record; // none for an object that wasn't there
     AcDbObjectId owner;
     bool erased = false;
   };
