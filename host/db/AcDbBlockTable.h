@@ -29,8 +29,8 @@ class AcDbBlockTableRecord : public AcDbSymbolTableRecord {
   AcDbObjectId blockBeginId() const { return m_begin; }
   AcDbObjectId blockEndId() const { return m_end; }
 
-  // --- for the database's own modules
-  // -----------------------------------------------------------------------
+  // For the database's own modules:
+
   void setBegin(const AcDbObjectId& begin) { m_begin = begin; }
   void setEnd(const AcDbObjectId& end) { m_end = end; }
   void file(const AcDbObjectId& entity) { m_entities.push_back(entity); }

@@ -41,8 +41,7 @@ AcDbDatabase::~AcDbDatabase() {
   }
 }
 
-// --- symbol tables
-// ---------------------------------------------------------------------------------------------
+// Symbol tables:
 
 template <typename Table> AcDbObjectId AcDbDatabase::tableId() const {
   for (const AcDbObjectId& id : m_tables)
@@ -222,8 +221,7 @@ void AcDbDatabase::completeBlocks() {
   }
 }
 
-// --- dictionaries and objects
-// ----------------------------------------------------------------------------------
+// Dictionaries and objects:
 
 Acad::ErrorStatus AcDbDatabase::getNamedObjectsDictionary(AcDbDictionary*& dictionary, AcDb::OpenMode mode) {
   return acdbOpenObject(dictionary, m_namedObjects, mode);
@@ -281,8 +279,7 @@ void AcDbDatabase::reserveHandle(AcDbHandle handle) {
     m_nextHandle = handle.value() + 1;
 }
 
-// --- settings
-// --------------------------------------------------------------------------------------------------
+// Settings:
 
 AcDbObjectId AcDbDatabase::clayer() const {
   const auto name = m_header->text("$CLAYER");
@@ -302,8 +299,7 @@ Acad::ErrorStatus AcDbDatabase::setClayer(const AcDbObjectId& layer) {
   return header->setVariable("$CLAYER", DxfRecordEditor::tag(8, dxf::encodeText(record->name())));
 }
 
-// --- state
-// -----------------------------------------------------------------------------------------------------
+// State:
 
 void AcDbDatabase::addReactor(AcDbDatabaseReactor* reactor) {
   if (reactor && std::find(m_reactors.begin(), m_reactors.end(), reactor) == m_reactors.end())
@@ -332,8 +328,7 @@ void AcDbDatabase::afterAppend(AcDbObject& object) {
   for (AcDbDatabaseReactor* reactor : std::vector(m_reactors)) reactor->objectAppended(this, &object);
 }
 
-// --- opening
-// ---------------------------------------------------------------------------------------------------
+// Opening:
 
 Acad::ErrorStatus acdbOpenObject(AcDbObject*& object, const AcDbObjectId& id, AcDb::OpenMode mode,
                                  bool openErased) {

@@ -36,8 +36,8 @@ class AcDbDatabase {
   AcDbDatabase(const AcDbDatabase&) = delete;
   AcDbDatabase& operator=(const AcDbDatabase&) = delete;
 
-  // --- symbol tables
-  // ----------------------------------------------------------------------------------------
+  // Symbol tables:
+
   Acad::ErrorStatus getSymbolTable(AcDbBlockTable*& table, AcDb::OpenMode mode);
   Acad::ErrorStatus getSymbolTable(AcDbDimStyleTable*& table, AcDb::OpenMode mode);
   Acad::ErrorStatus getSymbolTable(AcDbLayerTable*& table, AcDb::OpenMode mode);
@@ -62,8 +62,8 @@ class AcDbDatabase {
   // Registers an application name for extended data, if it isn't yet.
   Acad::ErrorStatus registerApplication(const CString& name);
 
-  // --- dictionaries
-  // -----------------------------------------------------------------------------------------
+  // Dictionaries:
+
   Acad::ErrorStatus getNamedObjectsDictionary(AcDbDictionary*& dictionary, AcDb::OpenMode mode);
   AcDbObjectId namedObjectsDictionaryId() const { return m_namedObjects; }
   void setNamedObjectsDictionaryId(const AcDbObjectId& id) { m_namedObjects = id; }
@@ -71,10 +71,10 @@ class AcDbDatabase {
   const std::vector<AcDbObjectId>& objects() const { return m_objects; }
   std::vector<AcDbObjectId>& objects() { return m_objects; }
 
-  // --- objects
-  // ---------------------------------------------------------------------------------------------- Takes
-  // object into the drawing under a new handle (or the one given, which must be free): the database owns it
-  // from then on, and it is open for write. eAlreadyInDb when it is in one.
+  // Objects:
+
+  // Takes object into the drawing under a new handle (or the one given, which must be free): the database
+  // owns it from then on, and it is open for write. eAlreadyInDb when it is in one.
   Acad::ErrorStatus addAcDbObject(AcDbObject* object, const AcDbObjectId& owner = {}, AcDbHandle handle = {});
   // addAcDbObject, and the object is filed in the OBJECTS section.
   Acad::ErrorStatus addToObjects(AcDbObject* object, const AcDbObjectId& owner, AcDbHandle handle = {});
@@ -86,8 +86,8 @@ class AcDbDatabase {
   // All objects in the order in which they came, erased ones included.
   const std::deque<AcDbStub>& stubs() const { return m_stubs; }
 
-  // --- settings
-  // ---------------------------------------------------------------------------------------------
+  // Settings:
+
   AcDbHeader& header() { return *m_header; }
   const AcDbHeader& header() const { return *m_header; }
   AcDbObjectId headerId() const { return m_header->objectId(); }
@@ -101,8 +101,8 @@ class AcDbDatabase {
   // Folders in which support files such as acad.lin are looked for, for all databases.
   static void setSupportFolders(std::vector<CString> folders);
 
-  // --- state
-  // ------------------------------------------------------------------------------------------------
+  // State:
+
   UndoHistory& undo() { return *m_undo; }
   const UndoHistory& undo() const { return *m_undo; }
   DrawingForm& form() { return m_form; }
@@ -156,10 +156,10 @@ class AcDbDatabase {
   bool m_loading = false;
 };
 
-// --- opening
-// -------------------------------------------------------------------------------------------------- Opens an
-// object: eNullObjectId, eWasErased (unless openErased), eWasOpenForWrite (somebody writes), eWasOpenForRead
-// (somebody reads and mode is write), eOnLockedLayer (an entity for write on a locked layer),
+// Opening:
+
+// Opens an object: eNullObjectId, eWasErased (unless openErased), eWasOpenForWrite (somebody writes),
+// eWasOpenForRead (somebody reads and mode is write), eOnLockedLayer (an entity for write on a locked layer),
 // eNotThatKindOfClass for the typed forms. On failure object is null.
 Acad::ErrorStatus acdbOpenObject(AcDbObject*& object, const AcDbObjectId& id, AcDb::OpenMode mode,
                                  bool openErased = false);
@@ -184,8 +184,8 @@ class AcDbEntity;
 Acad::ErrorStatus acdbOpenAcDbEntity(AcDbEntity*& entity, const AcDbObjectId& id, AcDb::OpenMode mode,
                                      bool openErased = false);
 
-// --- the working drawing
-// --------------------------------------------------------------------------------------
+// The working drawing:
+
 class AcDbHostApplicationServices {
  public:
   AcDbDatabase* workingDatabase() const { return m_working; }

@@ -1,10 +1,8 @@
-// Named objects: a dictionary maps names to objects of the OBJECTS section; an xrecord holds free data.
+// Maps names to objects of the OBJECTS section.
 #pragma once
 
 #include "host/db/AcDbDatabase.h"
 
-#include <optional>
-#include <string>
 #include <vector>
 
 class AcDbDictionary : public AcDbObject {
@@ -39,29 +37,4 @@ class AcDbDictionary : public AcDbObject {
  private:
   std::vector<Entry> m_entries;
   bool m_entriesChanged = false;
-};
-
-class AcDbXrecord : public AcDbObject {
-  ACRX_DECLARE_MEMBERS(AcDbXrecord);
-
- public:
-  // The data as a new chain that the caller releases; null for an empty record.
-  Acad::ErrorStatus rbChain(resbuf** chain) const;
-  // eInvalidInput for a chain with a group code outside 1 to 369.
-  Acad::ErrorStatus setFromRbChain(const resbuf& chain);
-
- protected:
-  void dxfInFields(DxfTags tags, const DxfDecodeContext& context) override;
-  void dxfOutFields(DxfRecordEditor& editor) const override;
-
- private:
-  std::optional<std::string> m_newData; // tags; the data stays in the record until it is changed
-};
-
-// An object of the OBJECTS section that the host keeps as it came.
-class AcDbUnknownObject : public AcDbObject {
-  ACRX_DECLARE_MEMBERS(AcDbUnknownObject);
-
- protected:
-  void dxfOutFields(DxfRecordEditor& editor) const override;
 };

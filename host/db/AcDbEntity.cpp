@@ -12,7 +12,6 @@
 #include <cmath>
 
 ACRX_NO_CONS_DEFINE_MEMBERS(AcDbEntity, AcDbObject)
-ACRX_DXF_DEFINE_MEMBERS(AcDbUnknownEntity, AcDbEntity, "")
 
 namespace {
 

@@ -77,8 +77,3 @@ class AcDbEntity : public AcDbObject {
   std::uint32_t m_rank = 0;
   std::unique_ptr<std::vector<AcDbObjectId>> m_subEntities;
 };
-
-// An entity that the host keeps as it came: everything but the common properties stays in its record.
-class AcDbUnknownEntity : public AcDbEntity {
-  ACRX_DECLARE_MEMBERS(AcDbUnknownEntity);
-};

@@ -54,8 +54,9 @@ class AcDbObject : public AcRxObject {
 
   AcDbObjectId extensionDictionary() const;
 
-  // --- persistent form
-  // -------------------------------------------------------------------------------------- The record with
+  // Persistent form:
+
+  // The record with
   // all changes of the typed fields merged in.
   const DxfRecord& record() const;
   // Takes a record as the object's state and decodes it.
@@ -67,8 +68,8 @@ class AcDbObject : public AcRxObject {
   // Makes the next record() merge the fields again, because a name that they refer to has changed.
   void invalidateRecord() { m_fieldsChanged = true; }
 
-  // --- opening, for the database
-  // ----------------------------------------------------------------------------
+  // Opening, for the database:
+
   Acad::ErrorStatus open(AcDb::OpenMode mode, bool openErased);
   // What was just taken into the drawing is open for write, on a locked layer too.
   void openAsNew() { m_writing = true; }

@@ -1,4 +1,5 @@
-#include "host/db/AcDbCurves.h"
+#include "host/db/AcDbPolyline.h"
+
 #include "host/db/AcGiWorldDraw.h"
 #include "host/db/DxfDecodeContext.h"
 #include "host/db/DxfRecordEditor.h"

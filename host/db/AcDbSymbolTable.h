@@ -22,8 +22,8 @@ class AcDbSymbolTable : public AcDbObject {
   Acad::ErrorStatus add(AcDbSymbolTableRecord* record);
   Acad::ErrorStatus add(AcDbObjectId& id, AcDbSymbolTableRecord* record);
 
-  // --- for the database's own modules
-  // -----------------------------------------------------------------------
+  // For the database's own modules:
+
   const std::vector<AcDbObjectId>& records() const { return m_records; }
   // The record type of the entries, "LAYER".
   virtual std::string_view recordType() const { return m_recordType; }

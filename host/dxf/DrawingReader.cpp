@@ -5,6 +5,8 @@
 #include "host/db/AcDbBlockTable.h"
 #include "host/db/AcDbDictionary.h"
 #include "host/db/AcDbTables.h"
+#include "host/db/AcDbUnknownEntity.h"
+#include "host/db/AcDbUnknownObject.h"
 #include "host/db/BlockCycle.h"
 #include "host/db/DxfRecordEditor.h"
 #include "host/db/DxfText.h"

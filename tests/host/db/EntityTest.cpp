@@ -2,6 +2,7 @@
 
 #include "host/db/AcDbBlockReference.h"
 #include "host/db/AcDbText.h"
+#include "host/db/AcDbUnknownEntity.h"
 #include "host/db/BlockCycle.h"
 #include "host/ge/AcGePlane.h"
 

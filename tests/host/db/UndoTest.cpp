@@ -1,6 +1,7 @@
 #include "tests/host/db/DrawingFixture.h"
 
 #include "host/db/AcDbDictionary.h"
+#include "host/db/AcDbXrecord.h"
 #include "host/db/resbuf.h"
 
 class Undo : public Drawing {

@@ -1,0 +1,133 @@
+#include "host/db/AcDbArc.h"
+
+#include "host/db/AcGiWorldDraw.h"
+#include "host/db/DxfDecodeContext.h"
+#include "host/db/DxfRecordEditor.h"
+#include "host/db/EntityMath.h"
+
+#include <cmath>
+#include <utility>
+
+ACRX_DXF_DEFINE_MEMBERS(AcDbArc, AcDbCurve, "ARC")
+
+using entity::isFinite;
+using entity::readVector;
+
+AcDbArc::AcDbArc(const AcGePoint3d& centre, const AcGeVector3d& normal, double radius, double startAngle,
+                 double endAngle)
+    : m_center(entity::toObject(centre, normal)), m_normal(normal), m_radius(radius),
+      m_startAngle(startAngle), m_endAngle(endAngle) {}
+
+AcGePoint3d AcDbArc::center() const {
+  return entity::toWorld(m_center, m_normal);
+}
+
+Acad::ErrorStatus AcDbArc::setCenter(const AcGePoint3d& centre) {
+  if (!isFinite(centre)) return Acad::eInvalidInput;
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  m_center = entity::toObject(centre, m_normal);
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbArc::setRadius(double radius) {
+  if (!(radius > 0) || !std::isfinite(radius)) return Acad::eInvalidInput;
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  m_radius = radius;
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbArc::setStartAngle(double angle) {
+  if (!std::isfinite(angle)) return Acad::eInvalidInput;
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  m_startAngle = angle;
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbArc::setEndAngle(double angle) {
+  if (!std::isfinite(angle)) return Acad::eInvalidInput;
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  m_endAngle = angle;
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbArc::getStartPoint(AcGePoint3d& point) const {
+  point = entity::onCircle(m_center, m_normal, m_radius, m_startAngle);
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbArc::getEndPoint(AcGePoint3d& point) const {
+  point = entity::onCircle(m_center, m_normal, m_radius, m_endAngle);
+  return Acad::eOk;
+}
+
+void AcDbArc::worldDraw(AcGiWorldDraw& draw) const {
+  draw.circularArc(center(), m_radius, m_normal, entity::xAxis(m_normal), m_startAngle,
+                   entity::sweep(m_startAngle, m_endAngle));
+}
+
+Acad::ErrorStatus AcDbArc::transformBy(const AcGeMatrix3d& matrix) {
+  if (!matrix.isUniScaledOrtho()) return Acad::eCannotScaleNonUniformly;
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  AcGePoint3d start;
+  AcGePoint3d end;
+  getStartPoint(start);
+  getEndPoint(end);
+  const AcGePoint3d centre = matrix * center();
+  m_normal = entity::transformedNormal(m_normal, matrix);
+  m_center = entity::toObject(centre, m_normal);
+  m_radius *= matrix.scale();
+  // A reflection turns the sense about the normal, so start and end change places.
+  if (matrix.det() < 0) std::swap(start, end);
+  m_startAngle = entity::angleOf(entity::toObject(matrix * start, m_normal) - m_center);
+  m_endAngle = entity::angleOf(entity::toObject(matrix * end, m_normal) - m_center);
+  return Acad::eOk;
+}
+
+void AcDbArc::dxfInFields(DxfTags tags, const DxfDecodeContext& context) {
+  AcDbEntity::dxfInFields(tags, context);
+  m_center = {};
+  m_normal = {0, 0, 1};
+  m_radius = 1;
+  m_startAngle = m_endAngle = m_thickness = 0;
+  entity::FieldScope scope(tags);
+  for (const DxfTag& tag : scope) {
+    switch (tag.code) {
+    case 10:
+      m_center.x = context.real(tag);
+      break;
+    case 20:
+      m_center.y = context.real(tag);
+      break;
+    case 30:
+      m_center.z = context.real(tag);
+      break;
+    case 39:
+      m_thickness = context.real(tag);
+      break;
+    case 40:
+      m_radius = context.real(tag, 1.0);
+      break;
+    case 50:
+      m_startAngle = entity::fromDegrees(context.real(tag));
+      break;
+    case 51:
+      m_endAngle = entity::fromDegrees(context.real(tag));
+      break;
+    default:
+      readVector(tag, 210, m_normal, context);
+      break;
+    }
+  }
+}
+
+void AcDbArc::dxfOutFields(DxfRecordEditor& editor) const {
+  AcDbEntity::dxfOutFields(editor);
+  editor.subclass("AcDbCircle");
+  editor.real(39, m_thickness, 0.0);
+  editor.point(10, m_center);
+  editor.real(40, m_radius);
+  editor.vector(210, m_normal, {0, 0, 1});
+  editor.subclass("AcDbArc");
+  entity::writeDegrees(editor, 50, m_startAngle);
+  entity::writeDegrees(editor, 51, m_endAngle);
+}
