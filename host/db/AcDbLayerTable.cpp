@@ -57,7 +57,10 @@ Acad::ErrorStatus AcDbLayerTableRecord::setColor(const AcCmColor& color) {
 
 Acad::ErrorStatus AcDbLayerTableRecord::setLinetypeObjectId(const AcDbObjectId& linetype) {
   if (linetype.isNull()) return Acad::eNullObjectId;
-  if (!AcDbLinetypeTableRecord::cast(linetype.object())) return Acad::eNotThatKindOfClass;
+  const auto* record = AcDbLinetypeTableRecord::cast(linetype.object());
+  if (!record) return Acad::eNotThatKindOfClass;
+  if (record->name().CompareNoCase(L"ByLayer") == 0 || record->name().CompareNoCase(L"ByBlock") == 0)
+    return Acad::eInvalidInput;
   if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
   m_linetype = linetype;
   return Acad::eOk;

@@ -26,7 +26,8 @@ class AcDbLayerTableRecord : public AcDbSymbolTableRecord {
   // By layer and by block mean nothing on a layer: 1 to 255, eInvalidInput otherwise.
   Acad::ErrorStatus setColor(const AcCmColor& color);
   AcDbObjectId linetypeObjectId() const { return m_linetype; }
-  // eNullObjectId, eNotThatKindOfClass leave the linetype as it was.
+  // eNullObjectId, eNotThatKindOfClass, and eInvalidInput for by layer and by block, which mean nothing on a
+  // layer, leave the linetype as it was.
   Acad::ErrorStatus setLinetypeObjectId(const AcDbObjectId& linetype);
   AcDb::LineWeight lineWeight() const { return static_cast<AcDb::LineWeight>(m_lineWeight); }
   // eInvalidInput for a weight that no drawing may hold. The default weight is the natural one for a layer.

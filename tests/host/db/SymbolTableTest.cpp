@@ -109,6 +109,9 @@ TEST_F(SymbolTables, ALayerTakesOnlyValuesThatADrawingMayHold) {
   EXPECT_EQ(layer->setLineWeight(AcDb::kLnWt030), Acad::eOk);
   EXPECT_EQ(layer->setLinetypeObjectId(AcDbObjectId()), Acad::eNullObjectId);
   EXPECT_EQ(layer->setLinetypeObjectId(db.clayer()), Acad::eNotThatKindOfClass);
+  AcDbObjectId byLayer;
+  db.tableOf("LTYPE")->getAt(L"ByLayer", byLayer);
+  EXPECT_EQ(layer->setLinetypeObjectId(byLayer), Acad::eInvalidInput);
 }
 
 TEST_F(SymbolTables, TheCurrentLayerCannotBeFrozenButSwitchedOffAndLocked) {
