@@ -4,6 +4,19 @@
 
 #include <iostream>
 
+namespace {
+
+std::string describe(const CLI::App*, const CLI::Error& error) {
+  const std::string hint = "用 zpcad --help 查看用法。\n";
+  if (dynamic_cast<const CLI::ExtrasError*>(&error))
+    return std::string("不认识的参数：") + error.what() + "\n" + hint;
+  if (dynamic_cast<const CLI::ArgumentMismatch*>(&error))
+    return std::string("选项缺少值：") + error.what() + "\n" + hint;
+  return std::string("参数有误：") + error.what() + "\n" + hint;
+}
+
+} // namespace
+
 std::optional<int> ParseOptions(int argc, const char* const* argv, Options& options) {
   CLI::App app("暖通管道 CAD 主程序", "zpcad");
   std::string data;
@@ -12,10 +25,11 @@ std::optional<int> ParseOptions(int argc, const char* const* argv, Options& opti
   std::string drawing;
   app.get_formatter()->label("OPTIONS", "选项");
   app.get_formatter()->label("Usage", "用法");
-  app.get_formatter()->label("Options", "选项");
   app.get_formatter()->label("Positionals", "参数");
+  app.option_defaults()->group("选项");
   app.set_help_flag("-h,--help", "显示本说明");
   app.set_version_flag("--version", std::string("zpcad ") + ZP_VERSION, "显示版本");
+  app.failure_message(describe);
   app.add_flag("--console", options.console, "在终端中运行，不开窗口");
   auto* dataOption =
       app.add_option("--data", data, "数据文件夹；默认为用户数据文件夹中的副本")->type_name("DIR");

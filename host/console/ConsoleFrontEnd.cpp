@@ -8,9 +8,14 @@
 #include <ostream>
 #include <string>
 
+// Names in drawings may hold anything; nothing of it may command the terminal or break the encoding.
 void ConsoleFrontEnd::write(const CString& text) {
   if (text.IsEmpty()) return;
-  m_out << text.ToUtf8();
+  std::wstring shown(text.View());
+  for (wchar_t& c : shown)
+    if ((c < 0x20 && c != L'\n' && c != L'\t') || (c >= 0x7F && c < 0xA0) || (c >= 0xD800 && c < 0xE000))
+      c = L'\xFFFD';
+  m_out << CString(std::move(shown)).ToUtf8();
   m_atLineStart = text.View().back() == L'\n';
 }
 
@@ -81,13 +86,12 @@ std::size_t ConsoleFrontEnd::messageBox(const EdMessageBox& box) {
 void ConsoleFrontEnd::lineRefused(const EdRefusal& refusal) {
   freshLine();
   write(refusal.reason + L"\n");
-  if (refusal.number == 0) return;
-  CString where;
-  where.Format(L"第 %d 行", refusal.number);
-  if (!refusal.source.IsEmpty()) where = refusal.source + L" " + where;
-  write(L"** " + where + L"“" + ed::Excerpt(refusal.line) + L"”未执行。");
-  if (!refusal.expected.IsEmpty()) write(L"应为：" + refusal.expected + L"。");
-  write(L"\n");
+  CString where = refusal.source;
+  if (refusal.number > 0) where.AppendFormat(where.IsEmpty() ? L"第 %d 行" : L" 第 %d 行", refusal.number);
+  CString text = L"** " + where + L"“" + ed::Excerpt(refusal.line) + L"”未执行";
+  text += refusal.scriptStopped ? L"，脚本到此停止。" : L"。";
+  if (!refusal.expected.IsEmpty()) text += L"应为：" + refusal.expected + L"。";
+  write(text + L"\n");
 }
 
 void ConsoleFrontEnd::finish() {

@@ -61,7 +61,7 @@ int RunConsole(const ConsoleJob& job, std::istream& in, std::ostream& out, bool 
   const SessionScope scope(frontEnd);
   auto& session = EdSession::instance();
   acDocManager->newDocument();
-  if (job.drawing && acedCommandTexts({L"OPEN", *job.drawing}) != RTNORM) return kUnusable;
+  if (job.drawing && acedCommandTexts({L"OPEN", *job.drawing}, false) != RTNORM) return kUnusable;
   if (session.refusedLines() > 0) return kUnusable;
   for (const auto& plugIn : job.plugIns)
     if (!acrxDynamicLinker->loadModule(plugIn, true)) return kUnusable;

@@ -20,10 +20,11 @@ struct EdMessageBox {
 // A line that could not be obeyed.
 struct EdRefusal {
   CString source; // the script's name; empty for lines that the user typed
-  int number = 0; // of the line in its source, from 1; 0 when no line was read yet
+  int number = 0; // of the line in its source, from 1; 0 for a line that a program gave, or none
   CString line;
   CString reason;   // a sentence
   CString expected; // what would have been accepted; may be empty
+  bool scriptStopped = false;
 };
 
 class EdFrontEnd {

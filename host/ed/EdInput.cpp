@@ -24,6 +24,16 @@ void EdInput::dropFinished() {
     m_sources.pop_back();
 }
 
+bool EdInput::stopScripts() {
+  if (m_last.source.IsEmpty()) return false;
+  for (auto& source : m_sources) {
+    if (!source.lines->isScript()) continue;
+    source.lines->abandon();
+    source.unread.reset();
+  }
+  return true;
+}
+
 void EdInput::clear() {
   m_sources.clear();
   m_typedUnread.reset();
@@ -37,7 +47,9 @@ std::optional<EdInput::Fetched> EdInput::fetch(const CString& prompt) {
     if (top.unread) return std::exchange(top.unread, std::nullopt);
     bool tooLong = false;
     if (auto text = top.lines->next(tooLong))
-      return Fetched{{std::move(*text), top.lines->name(), ++top.number, false}, top.lines->echo(), tooLong};
+      return Fetched{{std::move(*text), top.lines->name(), top.lines->isScript() ? ++top.number : 0, false},
+                     top.lines->echo(),
+                     tooLong};
     if (!top.lines->fallsThrough()) return std::nullopt;
     m_sources.pop_back();
   }
@@ -56,8 +68,7 @@ std::optional<EdInput::Fetched> EdInput::fetchNoComment(const CString& prompt, b
       m_last = fetched->line;
       CString reason;
       reason.Format(L"这一行超过 %d 字节，未予读取。", static_cast<int>(kEdLineLimit));
-      if (m_frontEnd)
-        m_frontEnd->lineRefused({m_last.source, m_last.number, m_last.text, reason, L"较短的一行"});
+      m_refuse(reason, L"较短的一行");
       continue;
     }
     if (freeText || !fetched->line.text.View().starts_with(L';')) return fetched;

@@ -13,7 +13,7 @@ class EdFrontEnd;
 struct EdLine {
   CString text;
   CString source; // the script's name, empty otherwise
-  int number = 0; // in its source, from 1
+  int number = 0; // in its script, or of all typed lines, from 1; 0 for text that a program gave
   bool typed = false;
 };
 
@@ -21,6 +21,10 @@ class EdInput {
  public:
   static constexpr std::size_t kMaxScripts = 8;
 
+  // Told why a line is not even handed on.
+  using Refuser = std::function<void(const CString& reason, const CString& expected)>;
+
+  explicit EdInput(Refuser refuser) : m_refuse(std::move(refuser)) {}
   void setFrontEnd(EdFrontEnd* frontEnd) { m_frontEnd = frontEnd; }
 
   void push(std::unique_ptr<EdLineSource> source);
@@ -31,6 +35,8 @@ class EdInput {
   void popTo(std::size_t depth);
   // Drops the sources on top that have no line left.
   void dropFinished();
+  // Leaves out what is left of all scripts, if the line read last came from one. Whether it did.
+  bool stopScripts();
   void clear();
 
   // The next line, shown as the answer to the prompt; nothing at the end of the input. A line that begins
@@ -57,6 +63,7 @@ class EdInput {
   std::optional<Fetched> fetchNoComment(const CString& prompt, bool freeText);
   EdLine take(const CString& prompt, const Fetched& fetched);
 
+  Refuser m_refuse;
   EdFrontEnd* m_frontEnd = nullptr;
   std::vector<Source> m_sources;
   int m_typedLines = 0;

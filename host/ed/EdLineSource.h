@@ -23,7 +23,10 @@ class EdLineSource {
   virtual bool echo() const { return true; }
   // Whether prompts go on with the source below at the end of this one; otherwise they are cancelled there.
   virtual bool fallsThrough() const { return true; }
+  // Lines of a script have numbers, and a script stops at a line that can't be obeyed.
   virtual bool isScript() const { return false; }
+  // Leaves out all further lines.
+  virtual void abandon() = 0;
 };
 
 // The lines of a script, which is UTF-8 or else GBK.
@@ -35,6 +38,7 @@ class EdScriptSource : public EdLineSource {
   CString name() const override { return m_name; }
   bool fallsThrough() const override { return m_fallsThrough; }
   bool isScript() const override { return true; }
+  void abandon() override { m_at = m_bytes.size(); }
 
  private:
   CString m_name;
@@ -53,6 +57,7 @@ class EdAnswerSource : public EdLineSource {
   bool atEnd() const override { return m_answers.empty(); }
   bool echo() const override { return m_echo; }
   bool fallsThrough() const override { return m_fallsThrough; }
+  void abandon() override { m_answers.clear(); }
 
   // Splits text as it is typed at a command line: a blank or a line end closes an answer, quotes hold one
   // together. What follows the last of them is an answer too, unless it is empty.

@@ -11,6 +11,9 @@
 #include <exception>
 #include <utility>
 
+EdSession::EdSession()
+    : m_input([this](const CString& reason, const CString& expected) { refuse(reason, expected); }) {}
+
 EdSession& EdSession::instance() {
   static auto* session = new EdSession; // never destroyed: plug-ins print from their own destructors
   return *session;
@@ -36,9 +39,9 @@ void EdSession::print(const CString& text) {
 
 void EdSession::refuse(const CString& reason, const CString& expected) {
   ++m_refused;
-  if (!m_frontEnd) return;
-  const auto& line = m_input.last();
-  m_frontEnd->lineRefused({line.source, line.number, line.text, reason, expected});
+  const auto line = m_input.last();
+  const bool stopped = m_input.stopScripts();
+  if (m_frontEnd) m_frontEnd->lineRefused({line.source, line.number, line.text, reason, expected, stopped});
 }
 
 EdSession::InitGet EdSession::takeInitGet() {

@@ -47,7 +47,8 @@ class EdSession {
   // counts as cancelled.
   void noteInput(bool cancelled);
 
-  // The line read last could not be obeyed: why, and what would have been right.
+  // The line read last could not be obeyed: why, and what would have been right. Scripts stop there, since
+  // their next lines count on this one.
   void refuse(const CString& reason, const CString& expected = {});
   int refusedLines() const { return m_refused; }
 
@@ -64,6 +65,7 @@ class EdSession {
   const CString& lastKeyword() const { return m_keyword; }
 
  private:
+  EdSession();
   struct Running {
     std::shared_ptr<const AcEdCommand> command;
     AcApDocument* document = nullptr; // the one it holds a lock on

@@ -15,14 +15,14 @@ CString PointText(const ads_real* point) {
 
 } // namespace ed
 
-int acedCommandTexts(const std::deque<CString>& nameAndAnswers) {
+int acedCommandTexts(const std::deque<CString>& nameAndAnswers, bool echo) {
   if (nameAndAnswers.empty()) return RTERROR;
   auto answers = nameAndAnswers;
   const CString name = ed::CommandName(answers.front());
   answers.pop_front();
   auto& session = EdSession::instance();
   const auto depth = session.input().depth();
-  session.input().push(std::make_unique<EdAnswerSource>(std::move(answers)));
+  session.input().push(std::make_unique<EdAnswerSource>(std::move(answers), echo));
   const auto outcome = session.runCommand(name);
   session.input().popTo(depth);
   switch (outcome) {

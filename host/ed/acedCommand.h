@@ -9,7 +9,7 @@
 
 // The name, then an answer for each prompt; an empty answer is Enter. A prompt that finds no answer is
 // cancelled. RTNORM; RTCAN for a command that was cancelled; RTERROR for one that failed or is unknown.
-int acedCommandTexts(const std::deque<CString>& nameAndAnswers);
+int acedCommandTexts(const std::deque<CString>& nameAndAnswers, bool echo = true);
 
 namespace ed {
 
