@@ -1,0 +1,86 @@
+// To provide a command whose row tells that it is missing, put its handler in place of Missing<...> and take
+// its line out of kMissing. A handler that shows a dialog does so inside a ResourceBracket, unless the
+// function that it calls has one of its own.
+#include "plugin/frame/CommandTable.h"
+
+#include <string_view>
+
+#include "host/ed/AcEdCommand.h"
+#include "host/ed/acutPrintf.h"
+#include "plugin/layers/LayerService.h"
+
+namespace {
+
+// Commands of which this installation has the name but not the work, and what each would open.
+struct MissingCommand {
+  const wchar_t* command;
+  const wchar_t* title;
+};
+
+constexpr MissingCommand kMissing[] = {
+    {L"KOR_GJGLQ", L"管材管径管理器"},
+    {L"KOR_LSGLQ", L"管道流速管理器"},
+    {L"KOR_FGGJGLQ", L"风管管材和管径管理器"},
+    {L"KOR_XTSZ", L"系统设置"},
+    {L"KOR_TCGLQ", L"图层管理器"},
+    {L"KOR_CADTCFZ", L"CAD当前图纸图层分组"},
+    {L"KOR_CADTCKZ", L"当前CAD图纸图层管理"},
+    {L"KOR_FJPGGLQ", L"风机盘管数据管理"},
+    {L"KOR_FJPG_OLDTONEW", L"旧风机盘管数据导入"},
+    {L"KOR_SRQ", L"散热器管理器"},
+    {L"KOR_SRQJS", L"散热器片数计算"},
+};
+
+// A name that the list doesn't have is no constant expression and thus no program.
+consteval std::size_t MissingIndex(std::wstring_view command) {
+  std::size_t index = 0;
+  while (kMissing[index].command != command) ++index;
+  return index;
+}
+
+template <std::size_t Index> void TellMissing() {
+  acutPrintf(L"\n命令 %s（%s）尚未提供。\n", kMissing[Index].command, kMissing[Index].title);
+}
+
+// The layer commands forward as they are: no resources, and a result that nobody looks at.
+void MakePickedLayerCurrent() {
+  ZP::SetCurrentLayer();
+}
+
+constexpr int kFlags = ACRX_CMD_USEPICKSET;
+
+#define ZP_MISSING_COMMAND(name)                                                                             \
+  { name, TellMissing<MissingIndex(name)>, kFlags }
+
+constexpr VkCmdTable kTable[] = {
+    ZP_MISSING_COMMAND(L"KOR_GJGLQ"),
+    ZP_MISSING_COMMAND(L"KOR_LSGLQ"),
+    ZP_MISSING_COMMAND(L"KOR_FGGJGLQ"),
+    ZP_MISSING_COMMAND(L"KOR_XTSZ"),
+    ZP_MISSING_COMMAND(L"KOR_TCGLQ"),
+    {L"KOR_SZDQTC", MakePickedLayerCurrent, kFlags},
+    {L"KOR_GBTC", ZP::CloseSelectedLayer, kFlags},
+    {L"KOR_GBQT", ZP::CloseOtherLayers, kFlags},
+    {L"KOR_DJTC", ZP::FrozenSelectedLayer, kFlags},
+    {L"KOR_DJQT", ZP::FrozenOtherLayers, kFlags},
+    {L"KOR_SDTC", ZP::LockedSelectedLayer, kFlags},
+    {L"KOR_SDQT", ZP::LockedOtherLayers, kFlags},
+    {L"KOR_TCHF", ZP::ResumeLayers, kFlags},
+    {L"KOR_DKQBTC", ZP::OpenAllLayers, kFlags},
+    {L"KOR_JDQBTC", ZP::UnFrozenAllLayers, kFlags},
+    {L"KOR_JSQBTC", ZP::UnLockedAllLayers, kFlags},
+    ZP_MISSING_COMMAND(L"KOR_CADTCFZ"),
+    ZP_MISSING_COMMAND(L"KOR_CADTCKZ"),
+    ZP_MISSING_COMMAND(L"KOR_FJPGGLQ"),
+    ZP_MISSING_COMMAND(L"KOR_FJPG_OLDTONEW"),
+    ZP_MISSING_COMMAND(L"KOR_SRQ"),
+    ZP_MISSING_COMMAND(L"KOR_SRQJS"),
+};
+
+#undef ZP_MISSING_COMMAND
+
+} // namespace
+
+std::span<const VkCmdTable> CommandTable() {
+  return kTable;
+}

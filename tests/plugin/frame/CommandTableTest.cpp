@@ -1,0 +1,70 @@
+#include "plugin/frame/CommandTable.h"
+
+#include <gmock/gmock.h>
+
+#include "plugin/layers/LayerService.h"
+#include "tests/support/ScriptedEditor.h"
+
+namespace {
+
+using testing::ElementsAre;
+
+std::string Utf8(const wchar_t* text) {
+  return CString(text).ToUtf8();
+}
+
+TEST(CommandTable, HasTheCommandsInTheirOrder) {
+  std::vector<std::string> names;
+  for (const VkCmdTable& row : CommandTable()) names.push_back(Utf8(row.command));
+  EXPECT_THAT(names,
+              ElementsAre("KOR_GJGLQ", "KOR_LSGLQ", "KOR_FGGJGLQ", "KOR_XTSZ", "KOR_TCGLQ", "KOR_SZDQTC",
+                          "KOR_GBTC", "KOR_GBQT", "KOR_DJTC", "KOR_DJQT", "KOR_SDTC", "KOR_SDQT", "KOR_TCHF",
+                          "KOR_DKQBTC", "KOR_JDQBTC", "KOR_JSQBTC", "KOR_CADTCFZ", "KOR_CADTCKZ",
+                          "KOR_FJPGGLQ", "KOR_FJPG_OLDTONEW", "KOR_SRQ", "KOR_SRQJS"));
+}
+
+TEST(CommandTable, LetsEveryCommandTakeWhatWasSelectedBefore) {
+  for (const VkCmdTable& row : CommandTable()) EXPECT_EQ(row.flags, 2) << Utf8(row.command);
+}
+
+TEST(CommandTable, ForwardsTheLayerCommandsAsTheyAre) {
+  const auto handlerOf = [](std::wstring_view command) -> void (*)() {
+    for (const VkCmdTable& row : CommandTable())
+      if (row.command == command) return row.handler;
+    return nullptr;
+  };
+  EXPECT_EQ(handlerOf(L"KOR_GBTC"), &ZP::CloseSelectedLayer);
+  EXPECT_EQ(handlerOf(L"KOR_GBQT"), &ZP::CloseOtherLayers);
+  EXPECT_EQ(handlerOf(L"KOR_DJTC"), &ZP::FrozenSelectedLayer);
+  EXPECT_EQ(handlerOf(L"KOR_DJQT"), &ZP::FrozenOtherLayers);
+  EXPECT_EQ(handlerOf(L"KOR_SDTC"), &ZP::LockedSelectedLayer);
+  EXPECT_EQ(handlerOf(L"KOR_SDQT"), &ZP::LockedOtherLayers);
+  EXPECT_EQ(handlerOf(L"KOR_TCHF"), &ZP::ResumeLayers);
+  EXPECT_EQ(handlerOf(L"KOR_DKQBTC"), &ZP::OpenAllLayers);
+  EXPECT_EQ(handlerOf(L"KOR_JDQBTC"), &ZP::UnFrozenAllLayers);
+  EXPECT_EQ(handlerOf(L"KOR_JSQBTC"), &ZP::UnLockedAllLayers);
+}
+
+// The commands that only say so: whoever provides one takes it off this list.
+TEST(CommandTable, TellsWhichCommandsAreMissing) {
+  ScriptedEditor editor;
+  std::vector<std::string> missing;
+  for (const VkCmdTable& row : CommandTable()) {
+    if (std::wstring_view(row.command) == L"KOR_SZDQTC") break;
+    row.handler();
+  }
+  for (const VkCmdTable& row : CommandTable().subspan(16)) row.handler();
+  EXPECT_EQ(editor.printed, L"\n命令 KOR_GJGLQ（管材管径管理器）尚未提供。\n"
+                            L"\n命令 KOR_LSGLQ（管道流速管理器）尚未提供。\n"
+                            L"\n命令 KOR_FGGJGLQ（风管管材和管径管理器）尚未提供。\n"
+                            L"\n命令 KOR_XTSZ（系统设置）尚未提供。\n"
+                            L"\n命令 KOR_TCGLQ（图层管理器）尚未提供。\n"
+                            L"\n命令 KOR_CADTCFZ（CAD当前图纸图层分组）尚未提供。\n"
+                            L"\n命令 KOR_CADTCKZ（当前CAD图纸图层管理）尚未提供。\n"
+                            L"\n命令 KOR_FJPGGLQ（风机盘管数据管理）尚未提供。\n"
+                            L"\n命令 KOR_FJPG_OLDTONEW（旧风机盘管数据导入）尚未提供。\n"
+                            L"\n命令 KOR_SRQ（散热器管理器）尚未提供。\n"
+                            L"\n命令 KOR_SRQJS（散热器片数计算）尚未提供。\n");
+}
+
+} // namespace
