@@ -23,31 +23,19 @@ AcGePoint3d AcDbArc::center() const {
 }
 
 Acad::ErrorStatus AcDbArc::setCenter(const AcGePoint3d& centre) {
-  if (!isFinite(centre)) return Acad::eInvalidInput;
-  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  m_center = entity::toObject(centre, m_normal);
-  return Acad::eOk;
+  return assign(m_center, entity::toObject(centre, m_normal), isFinite(centre));
 }
 
 Acad::ErrorStatus AcDbArc::setRadius(double radius) {
-  if (!(radius > 0) || !std::isfinite(radius)) return Acad::eInvalidInput;
-  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  m_radius = radius;
-  return Acad::eOk;
+  return assign(m_radius, radius, radius > 0 && std::isfinite(radius));
 }
 
 Acad::ErrorStatus AcDbArc::setStartAngle(double angle) {
-  if (!std::isfinite(angle)) return Acad::eInvalidInput;
-  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  m_startAngle = angle;
-  return Acad::eOk;
+  return assign(m_startAngle, angle, std::isfinite(angle));
 }
 
 Acad::ErrorStatus AcDbArc::setEndAngle(double angle) {
-  if (!std::isfinite(angle)) return Acad::eInvalidInput;
-  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  m_endAngle = angle;
-  return Acad::eOk;
+  return assign(m_endAngle, angle, std::isfinite(angle));
 }
 
 Acad::ErrorStatus AcDbArc::getStartPoint(AcGePoint3d& point) const {

@@ -18,15 +18,11 @@ CString blockNameOf(const AcDbObject& mark) {
 } // namespace
 
 Acad::ErrorStatus AcDbBlockBegin::setBasePoint(const AcGePoint3d& point) {
-  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  m_basePoint = point;
-  return Acad::eOk;
+  return assign(m_basePoint, point);
 }
 
 Acad::ErrorStatus AcDbBlockBegin::setFlags(int flags) {
-  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  m_flags = flags;
-  return Acad::eOk;
+  return assign(m_flags, flags);
 }
 
 CString AcDbBlockBegin::xrefPath() const {

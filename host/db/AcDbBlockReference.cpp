@@ -27,24 +27,16 @@ AcGePoint3d AcDbBlockReference::position() const {
 }
 
 Acad::ErrorStatus AcDbBlockReference::setPosition(const AcGePoint3d& position) {
-  if (!entity::isFinite(position)) return Acad::eInvalidInput;
-  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  m_position = entity::toObject(position, m_normal);
-  return Acad::eOk;
+  return assign(m_position, entity::toObject(position, m_normal), entity::isFinite(position));
 }
 
 Acad::ErrorStatus AcDbBlockReference::setRotation(double angle) {
-  if (!std::isfinite(angle)) return Acad::eInvalidInput;
-  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  m_rotation = angle;
-  return Acad::eOk;
+  return assign(m_rotation, angle, std::isfinite(angle));
 }
 
 Acad::ErrorStatus AcDbBlockReference::setScaleFactors(const AcGeVector3d& scale) {
-  if (!entity::isFinite(scale) || scale.x == 0 || scale.y == 0 || scale.z == 0) return Acad::eInvalidInput;
-  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  m_scale = scale;
-  return Acad::eOk;
+  const bool valid = entity::isFinite(scale) && scale.x != 0 && scale.y != 0 && scale.z != 0;
+  return assign(m_scale, scale, valid);
 }
 
 AcGeMatrix3d AcDbBlockReference::blockTransform() const {

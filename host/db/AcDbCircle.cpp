@@ -21,17 +21,11 @@ AcGePoint3d AcDbCircle::center() const {
 }
 
 Acad::ErrorStatus AcDbCircle::setCenter(const AcGePoint3d& centre) {
-  if (!isFinite(centre)) return Acad::eInvalidInput;
-  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  m_center = entity::toObject(centre, m_normal);
-  return Acad::eOk;
+  return assign(m_center, entity::toObject(centre, m_normal), isFinite(centre));
 }
 
 Acad::ErrorStatus AcDbCircle::setRadius(double radius) {
-  if (!(radius > 0) || !std::isfinite(radius)) return Acad::eInvalidInput;
-  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  m_radius = radius;
-  return Acad::eOk;
+  return assign(m_radius, radius, radius > 0 && std::isfinite(radius));
 }
 
 void AcDbCircle::worldDraw(AcGiWorldDraw& draw) const {

@@ -43,17 +43,13 @@ Acad::ErrorStatus AcDbEntity::setLayer(const AcDbObjectId& id) {
   if (id.isNull()) return Acad::eNullObjectId;
   if (!AcDbLayerTableRecord::cast(id.object())) return Acad::eNotThatKindOfClass;
   if (database() && id.database() != database()) return Acad::eWrongDatabase;
-  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  m_layer = id;
-  return Acad::eOk;
+  return assign(m_layer, id);
 }
 
 Acad::ErrorStatus AcDbEntity::setColorIndex(int index) {
   AcCmColor color;
   if (const auto status = color.setColorIndex(index); status != Acad::eOk) return status;
-  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  m_colorIndex = static_cast<short>(index);
-  return Acad::eOk;
+  return assign(m_colorIndex, static_cast<short>(index));
 }
 
 CString AcDbEntity::linetype() const {
@@ -72,29 +68,19 @@ Acad::ErrorStatus AcDbEntity::setLinetype(const AcDbObjectId& id) {
   if (id.isNull()) return Acad::eNullObjectId;
   if (!AcDbLinetypeTableRecord::cast(id.object())) return Acad::eNotThatKindOfClass;
   if (database() && id.database() != database()) return Acad::eWrongDatabase;
-  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  m_linetype = id;
-  return Acad::eOk;
+  return assign(m_linetype, id);
 }
 
 Acad::ErrorStatus AcDbEntity::setLinetypeScale(double scale) {
-  if (!(scale > 0) || !std::isfinite(scale)) return Acad::eInvalidInput;
-  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  m_linetypeScale = scale;
-  return Acad::eOk;
+  return assign(m_linetypeScale, scale, scale > 0 && std::isfinite(scale));
 }
 
 Acad::ErrorStatus AcDbEntity::setLineWeight(AcDb::LineWeight weight) {
-  if (!AcDb::isValidLineWeight(weight)) return Acad::eInvalidInput;
-  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  m_lineWeight = static_cast<short>(weight);
-  return Acad::eOk;
+  return assign(m_lineWeight, static_cast<short>(weight), AcDb::isValidLineWeight(weight));
 }
 
 Acad::ErrorStatus AcDbEntity::setVisibility(AcDb::Visibility visibility) {
-  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  m_visible = visibility == AcDb::kVisible;
-  return Acad::eOk;
+  return assign(m_visible, visibility == AcDb::kVisible);
 }
 
 void AcDbEntity::worldDraw(AcGiWorldDraw&) const {}

@@ -49,10 +49,8 @@ Acad::ErrorStatus AcDbLayerTableRecord::setIsPlottable(bool plottable) {
 }
 
 Acad::ErrorStatus AcDbLayerTableRecord::setColor(const AcCmColor& color) {
-  if (color.isByLayer() || color.isByBlock()) return Acad::eInvalidInput;
-  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  m_colorIndex = static_cast<short>(color.colorIndex());
-  return Acad::eOk;
+  return assign(m_colorIndex, static_cast<short>(color.colorIndex()),
+                !color.isByLayer() && !color.isByBlock());
 }
 
 Acad::ErrorStatus AcDbLayerTableRecord::setLinetypeObjectId(const AcDbObjectId& linetype) {
@@ -67,10 +65,7 @@ Acad::ErrorStatus AcDbLayerTableRecord::setLinetypeObjectId(const AcDbObjectId& 
 }
 
 Acad::ErrorStatus AcDbLayerTableRecord::setLineWeight(AcDb::LineWeight weight) {
-  if (!AcDb::isValidLineWeight(weight)) return Acad::eInvalidInput;
-  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  m_lineWeight = static_cast<short>(weight);
-  return Acad::eOk;
+  return assign(m_lineWeight, static_cast<short>(weight), AcDb::isValidLineWeight(weight));
 }
 
 void AcDbLayerTableRecord::dxfInFields(DxfTags tags, const DxfDecodeContext& context) {

@@ -11,17 +11,11 @@ using entity::isFinite;
 using entity::readVector;
 
 Acad::ErrorStatus AcDbLine::setStartPoint(const AcGePoint3d& point) {
-  if (!isFinite(point)) return Acad::eInvalidInput;
-  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  m_start = point;
-  return Acad::eOk;
+  return assign(m_start, point, isFinite(point));
 }
 
 Acad::ErrorStatus AcDbLine::setEndPoint(const AcGePoint3d& point) {
-  if (!isFinite(point)) return Acad::eInvalidInput;
-  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  m_end = point;
-  return Acad::eOk;
+  return assign(m_end, point, isFinite(point));
 }
 
 Acad::ErrorStatus AcDbLine::getStartPoint(AcGePoint3d& point) const {

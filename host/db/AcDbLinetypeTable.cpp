@@ -16,9 +16,7 @@ double AcDbLinetypeTableRecord::patternLength() const {
 }
 
 Acad::ErrorStatus AcDbLinetypeTableRecord::setComments(const CString& comments) {
-  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  m_comments = comments;
-  return Acad::eOk;
+  return assign(m_comments, comments);
 }
 
 Acad::ErrorStatus AcDbLinetypeTableRecord::setDashes(std::vector<Dash> dashes) {

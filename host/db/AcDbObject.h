@@ -10,6 +10,7 @@
 #include "host/db/DxfRecord.h"
 
 #include <string>
+#include <type_traits>
 
 class DxfDecodeContext;
 class DxfRecordEditor;
@@ -83,6 +84,15 @@ class AcDbObject : public AcRxObject {
   virtual void dxfOutFields(DxfRecordEditor& editor) const;
   // Called by setters: the object must be open for write, and its record is merged anew when next asked for.
   Acad::ErrorStatus assertWriteEnabled();
+  // What most setters do: eInvalidInput for a value that is not valid, eNotOpenForWrite, else the field gets
+  // it.
+  template <typename T>
+  Acad::ErrorStatus assign(T& field, const std::type_identity_t<T>& value, bool valid = true) {
+    if (!valid) return Acad::eInvalidInput;
+    if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+    field = value;
+    return Acad::eOk;
+  }
   // Decoding text that stays in the record until someone asks for it.
   const DxfRecord& rawRecord() const { return m_record; }
   void replaceRawRecord(DxfRecord record) { m_record = std::move(record); }

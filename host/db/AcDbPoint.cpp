@@ -11,10 +11,7 @@ using entity::isFinite;
 using entity::readVector;
 
 Acad::ErrorStatus AcDbPoint::setPosition(const AcGePoint3d& position) {
-  if (!isFinite(position)) return Acad::eInvalidInput;
-  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  m_position = position;
-  return Acad::eOk;
+  return assign(m_position, position, isFinite(position));
 }
 
 void AcDbPoint::worldDraw(AcGiWorldDraw& draw) const {

@@ -103,16 +103,11 @@ Acad::ErrorStatus AcDbPolyline::getConstantWidth(double& width) const {
 }
 
 Acad::ErrorStatus AcDbPolyline::setClosed(bool closed) {
-  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  m_flags = closed ? m_flags | 1 : m_flags & ~1;
-  return Acad::eOk;
+  return assign(m_flags, closed ? m_flags | 1 : m_flags & ~1);
 }
 
 Acad::ErrorStatus AcDbPolyline::setElevation(double elevation) {
-  if (!std::isfinite(elevation)) return Acad::eInvalidInput;
-  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  m_elevation = elevation;
-  return Acad::eOk;
+  return assign(m_elevation, elevation, std::isfinite(elevation));
 }
 
 Acad::ErrorStatus AcDbPolyline::getStartPoint(AcGePoint3d& point) const {

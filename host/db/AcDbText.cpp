@@ -19,9 +19,7 @@ CString AcDbText::textString() const {
 }
 
 Acad::ErrorStatus AcDbText::setTextString(const CString& text) {
-  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  m_newText = text;
-  return Acad::eOk;
+  return assign(m_newText, text);
 }
 
 AcGePoint3d AcDbText::position() const {
@@ -38,17 +36,11 @@ Acad::ErrorStatus AcDbText::setPosition(const AcGePoint3d& position) {
 }
 
 Acad::ErrorStatus AcDbText::setHeight(double height) {
-  if (!(height > 0) || !std::isfinite(height)) return Acad::eInvalidInput;
-  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  m_height = height;
-  return Acad::eOk;
+  return assign(m_height, height, height > 0 && std::isfinite(height));
 }
 
 Acad::ErrorStatus AcDbText::setRotation(double angle) {
-  if (!std::isfinite(angle)) return Acad::eInvalidInput;
-  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  m_rotation = angle;
-  return Acad::eOk;
+  return assign(m_rotation, angle, std::isfinite(angle));
 }
 
 Acad::ErrorStatus AcDbText::setTextStyle(const AcDbObjectId& style) {

@@ -10,29 +10,19 @@ ACRX_DXF_DEFINE_MEMBERS(AcDbTextStyleTableRecord, AcDbSymbolTableRecord, "STYLE"
 ACRX_DXF_DEFINE_MEMBERS(AcDbTextStyleTable, AcDbSymbolTable, "")
 
 Acad::ErrorStatus AcDbTextStyleTableRecord::setTextSize(double size) {
-  if (!(size >= 0) || !std::isfinite(size)) return Acad::eInvalidInput;
-  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  m_textSize = size;
-  return Acad::eOk;
+  return assign(m_textSize, size, size >= 0 && std::isfinite(size));
 }
 
 Acad::ErrorStatus AcDbTextStyleTableRecord::setXScale(double scale) {
-  if (!(scale > 0) || !std::isfinite(scale)) return Acad::eInvalidInput;
-  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  m_xScale = scale;
-  return Acad::eOk;
+  return assign(m_xScale, scale, scale > 0 && std::isfinite(scale));
 }
 
 Acad::ErrorStatus AcDbTextStyleTableRecord::setFileName(const CString& name) {
-  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  m_fileName = name;
-  return Acad::eOk;
+  return assign(m_fileName, name);
 }
 
 Acad::ErrorStatus AcDbTextStyleTableRecord::setBigFontFileName(const CString& name) {
-  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  m_bigFont = name;
-  return Acad::eOk;
+  return assign(m_bigFont, name);
 }
 
 void AcDbTextStyleTableRecord::dxfInFields(DxfTags tags, const DxfDecodeContext& context) {
