@@ -2,34 +2,36 @@
 
 #include "host/db/DxfTag.h"
 
-namespace ed {
+namespace {
 
-bool IsBareResbufType(int type) {
-  return type == -3 || type == RTNONE;
+ResbufPtr makeItem(int type, const ResbufArgument& value) {
+  const bool isGroup = type >= 0 && type < RTNONE;
+  const auto kind = isGroup ? dxf::valueKind(type) : dxf::ValueKind::integer;
+  ResbufBuilder one;
+  if (type == -4 || type == RTSTR || kind == dxf::ValueKind::text || kind == dxf::ValueKind::handle)
+    return one.text(type, CString(value.text)).take();
+  const bool isPoint = type == RTPOINT || type == RT3DPOINT || (type >= 10 && type < 19) || type == 210 ||
+                       (type >= 1010 && type < 1020);
+  if (isPoint) return one.point(type, value.point[0], value.point[1], value.point[2]).take();
+  if (type == RTREAL || kind == dxf::ValueKind::real) return one.real(type, value.real).take();
+  return one.integer(type, value.integer).take();
 }
 
-} // namespace ed
+} // namespace
 
-resbuf* acutBuildChain(const std::vector<ResbufItem>& items) {
+resbuf* acutBuildChain(const std::vector<ResbufArgument>& arguments) {
   resbuf* head = nullptr;
   resbuf** tail = &head;
-  for (const auto& item : items) {
-    const int type = item.type == RTDXF0 ? 0 : item.type;
-    ResbufBuilder one;
-    const bool isText =
-        type == -4 || type == RTSTR ||
-        (type >= 0 && type < RTNONE &&
-         (dxf::valueKind(type) == dxf::ValueKind::text || dxf::valueKind(type) == dxf::ValueKind::handle));
-    const bool isReal =
-        type == RTREAL || (type >= 0 && type < RTNONE && dxf::valueKind(type) == dxf::ValueKind::real);
-    if (!item.hasValue)
+  for (std::size_t i = 0; i < arguments.size(); ++i) {
+    const int type = static_cast<int>(arguments[i].integer);
+    if (type == RTNONE || type == 0) break;
+    if (type == -3) {
       *tail = acutNewRb(type);
-    else if (isText)
-      *tail = one.text(type, CString(item.text)).take().release();
-    else if (isReal)
-      *tail = one.real(type, item.real).take().release();
-    else
-      *tail = one.integer(type, item.integer).take().release();
+    } else if (i + 1 < arguments.size()) {
+      *tail = makeItem(type == RTDXF0 ? 0 : type, arguments[++i]).release();
+    } else {
+      break; // a type that lacks its value
+    }
     tail = &(*tail)->rbnext;
   }
   return head;

@@ -1,0 +1,45 @@
+// A front end for tests: the lines are given beforehand, and what the editor says is kept.
+#pragma once
+
+#include "host/ed/EdFrontEnd.h"
+
+#include <deque>
+#include <initializer_list>
+#include <vector>
+
+class ScriptedFrontEnd : public EdFrontEnd {
+ public:
+  std::deque<CString> lines;
+  CString output;
+  std::vector<EdRefusal> refusals;
+  std::vector<EdMessageBox> boxes;
+  std::deque<std::size_t> answers; // of message boxes; the default where there is none
+  std::vector<CString> prompts;    // of all lines that were echoed
+  int regenerations = 0;
+  std::optional<double> aperture;
+
+  void type(std::initializer_list<const wchar_t*> more) {
+    lines.insert(lines.end(), more.begin(), more.end());
+  }
+
+  std::optional<CString> readLine(const CString&) override {
+    if (lines.empty()) return std::nullopt;
+    CString line = lines.front();
+    lines.pop_front();
+    return line;
+  }
+  void echo(const CString& prompt, const CString&, bool) override { prompts.push_back(prompt); }
+  void print(const CString& text) override { output += text; }
+  std::size_t messageBox(const EdMessageBox& box) override {
+    boxes.push_back(box);
+    if (answers.empty()) return box.defaultButton;
+    const auto answer = answers.front();
+    answers.pop_front();
+    return answer;
+  }
+  void lineRefused(const EdRefusal& refusal) override { refusals.push_back(refusal); }
+  void regenerate(AcApDocument&) override { ++regenerations; }
+  std::optional<double> pickAperture() override { return aperture; }
+
+  bool said(const wchar_t* text) const { return output.Find(text) >= 0; }
+};
