@@ -8,6 +8,7 @@ namespace {
 
 constexpr unsigned kSession = ACRX_CMD_SESSION | ACRX_CMD_NO_UNDO_MARKER;
 constexpr unsigned kLooks = ACRX_CMD_DOCREADLOCK | ACRX_CMD_NO_UNDO_MARKER | ACRX_CMD_USEPICKSET;
+constexpr unsigned kPicks = ACRX_CMD_DOCREADLOCK | ACRX_CMD_NO_UNDO_MARKER | ACRX_CMD_REDRAW;
 constexpr unsigned kDraws = ACRX_CMD_MODAL;
 constexpr unsigned kEdits = ACRX_CMD_USEPICKSET;
 
@@ -35,7 +36,7 @@ constexpr Row kRows[] = {
     {L"CLAYER", L"当前图层", kDraws, Clayer, L"设置当前图层"},
     {L"LIST", L"LI", kLooks, List, L"列出实体的特性"},
     {L"ID", L"坐标", kLooks, Id, L"显示点的坐标"},
-    {L"SELECT", L"选择", kLooks | ACRX_CMD_REDRAW, Select, L"选择实体，供下一命令使用"},
+    {L"SELECT", L"选择", kPicks, Select, L"选择实体，供下一命令使用"},
     {L"SETVAR", L"SET", kDraws, SetVar, L"查看或设置系统变量"},
     {L"REGEN", L"RE", kLooks, Regen, L"重新生成图形"},
     {L"U", L"放弃", kSession, U, L"放弃上一个命令"},

@@ -1,0 +1,139 @@
+#include "tests/host/commands/CommandFixture.h"
+
+#include <sys/stat.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+using FileCommands = CommandFixture;
+}
+
+TEST_F(FileCommands, SaveAsNamesTheDrawingAndSaveKeepsTheName) {
+  const CString path = file("plan.dxf");
+  run(L"LINE", {L"0,0", L"1,0", L""});
+  run(L"SAVEAS", {file("plan")});
+  EXPECT_EQ(path, curDoc()->fileName());
+  EXPECT_EQ(L"plan.dxf", curDoc()->docTitle());
+  EXPECT_FALSE(database().isModified());
+  run(L"POINT", {L"5,5"});
+  EXPECT_TRUE(database().isModified());
+  run(L"SAVE");
+  EXPECT_FALSE(refused()) << reason().ToUtf8();
+  run(L"CLOSE");
+  run(L"OPEN", {path});
+  EXPECT_NE(nullptr, only<AcDbPoint>());
+  EXPECT_TRUE(frontEnd.said(L"实体 2 个"));
+}
+
+TEST_F(FileCommands, SaveAsksForANameWhereThereIsNone) {
+  run(L"SAVE", {file("new.dxf")});
+  EXPECT_TRUE(fs::exists(file("new.dxf").ToUtf8()));
+  EXPECT_EQ(L"new.dxf", curDoc()->docTitle());
+}
+
+TEST_F(FileCommands, AnotherFileIsReplacedOnlyWhenTheUserSaysSo) {
+  write(file("old.dxf"), "precious");
+  run(L"SAVEAS", {file("old.dxf")});
+  EXPECT_TRUE(refused());
+  EXPECT_EQ("precious", read(file("old.dxf")));
+  frontEnd.answers = {0};
+  run(L"SAVEAS", {file("old.dxf")});
+  EXPECT_NE("precious", read(file("old.dxf")));
+}
+
+TEST_F(FileCommands, AFolderThatIsNotThereKeepsTheDrawingUnsaved) {
+  run(L"POINT", {L"5,5"});
+  run(L"SAVEAS", {file("none/plan.dxf")});
+  EXPECT_TRUE(refused());
+  EXPECT_TRUE(database().isModified());
+  EXPECT_FALSE(curDoc()->isNamed());
+}
+
+TEST_F(FileCommands, SavingOverAnotherOpenDrawingIsRefused) {
+  run(L"SAVEAS", {file("a.dxf")});
+  run(L"NEW");
+  run(L"SAVEAS", {file("a.dxf")});
+  EXPECT_GE(reason().Find(L"另一个打开着的图形"), 0);
+}
+
+TEST_F(FileCommands, OpeningAFileThatIsNoneSaysWhatToDo) {
+  run(L"OPEN", {file("none.dxf")});
+  EXPECT_GE(reason().Find(L"没有文件"), 0);
+  write(file("text.dxf"), "not a drawing\nat all\n");
+  run(L"OPEN", {file("text.dxf")});
+  EXPECT_GE(reason().Find(L"text.dxf"), 0) << reason().ToUtf8();
+  EXPECT_GE(frontEnd.refusals.back().expected.Find(L"RECOVER"), 0);
+  EXPECT_EQ(document, curDoc());
+}
+
+TEST_F(FileCommands, ADrawingThatIsOpenIsOnlyMadeCurrent) {
+  run(L"SAVEAS", {file("a.dxf")});
+  run(L"NEW");
+  run(L"OPEN", {file("a.dxf")});
+  EXPECT_EQ(document, curDoc());
+  EXPECT_EQ(2u, acDocManager->documentCount());
+}
+
+TEST_F(FileCommands, ASavedRecoveryKeepsTheBrokenFile) {
+  run(L"LINE", {L"0,0", L"1,0", L""});
+  run(L"SAVEAS", {file("whole.dxf")});
+  auto bytes = read(file("whole.dxf"));
+  bytes.resize(bytes.find("AcDbLine") + 12);
+  write(file("cut.dxf"), bytes);
+  run(L"OPEN", {file("cut.dxf")});
+  EXPECT_TRUE(refused());
+  frontEnd.refusals.clear();
+  run(L"RECOVER", {file("cut.dxf")});
+  ASSERT_FALSE(refused()) << reason().ToUtf8();
+  EXPECT_TRUE(frontEnd.said(L"读入时修正"));
+  run(L"SAVE");
+  EXPECT_FALSE(refused()) << reason().ToUtf8();
+  EXPECT_EQ(bytes, read(file("cut.dxf.rescued-1")));
+  run(L"SAVE");
+  EXPECT_FALSE(fs::exists(file("cut.dxf.rescued-2").ToUtf8())) << "once is enough";
+}
+
+TEST_F(FileCommands, CloseAsksBeforeWorkIsLost) {
+  run(L"POINT", {L"1,1"});
+  run(L"CLOSE");
+  EXPECT_TRUE(refused());
+  EXPECT_EQ(document, curDoc());
+  frontEnd.answers = {0};
+  run(L"CLOSE");
+  EXPECT_EQ(nullptr, curDoc());
+  frontEnd.refusals.clear();
+  run(L"CLOSE");
+  EXPECT_TRUE(refused()) << "nothing to close";
+  run(L"LINE");
+  EXPECT_EQ(2u, frontEnd.refusals.size());
+  run(L"U");
+  EXPECT_EQ(3u, frontEnd.refusals.size());
+}
+
+TEST_F(FileCommands, QuitAsksBeforeWorkIsLost) {
+  run(L"POINT", {L"1,1"});
+  run(L"QUIT");
+  EXPECT_FALSE(session().quitRequested());
+  frontEnd.answers = {0};
+  run(L"QUIT");
+  EXPECT_TRUE(session().quitRequested());
+}
+
+TEST_F(FileCommands, ScriptsRunTheirLines) {
+  write(file("s.scr"), "; 画点\nPOINT\n5,6\n");
+  run(L"SCRIPT", {file("s.scr")});
+  session().run();
+  EXPECT_EQ(AcGePoint3d(5, 6, 0), only<AcDbPoint>()->position());
+  run(L"SCRIPT", {file("none.scr")});
+  EXPECT_TRUE(refused());
+}
+
+TEST_F(FileCommands, ApploadTellsWhyAFileIsNoPlugIn) {
+  write(file("text.so"), "text");
+  run(L"APPLOAD", {file("text.so")});
+  EXPECT_GE(reason().Find(L"不是本机的共享库"), 0);
+  run(L"APPLOAD", {L"U", L"none.so"});
+  EXPECT_GE(reason().Find(L"没有加载"), 0);
+  run(L"APPLOAD", {L"?"});
+  EXPECT_TRUE(frontEnd.said(L"已加载 0 个插件"));
+}
