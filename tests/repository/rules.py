@@ -40,7 +40,7 @@ OUTSIDE = {
     "tests/": ["host/", "plugin/", "plugins/", "tests/"],
     "bench/": ["host/", "plugin/", "bench/"],
     "fuzz/": ["host/", "plugin/", "fuzz/"],
-    "tools/": ["host/", "tools/"],
+    "tools/": ["host/", "plugin/", "tools/"],
 }
 PUBLIC_HEADERS_ONLY = ("plugins/", "plugin/")
 PUBLIC_MARK = "ZP_EXPORT"
