@@ -1,0 +1,122 @@
+// The program that writes the shipped catalogues, run as a developer runs it.
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "tests/support/TempInstall.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path kTables = fs::path(ZP_SOURCE_DIR) / "tools/data/tables";
+const fs::path kShipped = fs::path(ZP_SOURCE_DIR) / "data";
+
+std::string Bytes(const fs::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+std::string Quoted(const fs::path& path) {
+  std::string text("'");
+  text += path.string();
+  text += "'";
+  return text;
+}
+
+class DataProgram : public testing::Test {
+ protected:
+  DataProgram() {
+    fs::create_directories(folder.Root() / "tables");
+    for (const auto& table : fs::directory_iterator(kTables))
+      fs::copy_file(table.path(), folder.Root() / "tables" / table.path().filename());
+  }
+  // The exit status; what was said is in Said().
+  int Run(const std::string& arguments) {
+    const std::string command =
+        std::string(ZP_DATA_PROGRAM) + " " + arguments + " 2> " + Quoted(folder.Root() / "said");
+    const int status = std::system(command.c_str());
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  }
+  int RunOnCopies() { return Run(Quoted(folder.Root() / "tables") + " " + Quoted(folder.Root() / "out")); }
+  std::string Said() const { return folder.Read("said"); }
+  void AppendTo(const char* table, const std::string& line) const {
+    std::ofstream(folder.Root() / "tables" / table, std::ios::app) << line << "\n";
+  }
+  TempInstall folder;
+};
+
+TEST_F(DataProgram, WritesTheShippedCataloguesByteForByte) {
+  ASSERT_EQ(RunOnCopies(), 0) << Said();
+  int files = 0;
+  for (const auto& entry : fs::recursive_directory_iterator(folder.Root() / "out")) {
+    if (!entry.is_regular_file()) continue;
+    ++files;
+    const auto relative = fs::relative(entry.path(), folder.Root() / "out");
+    EXPECT_EQ(Bytes(entry.path()), Bytes(kShipped / relative)) << relative << ": run the target \"data\"";
+  }
+  EXPECT_EQ(files, 2);
+}
+
+TEST_F(DataProgram, GivesTheSameWhateverStoodThereBefore) {
+  folder.Write("out/Data/PipeMaterial.idp", R"(["",{"Version":"1.0","别的":"x"}])");
+  folder.Write("out/Data/LayerManager/默认方案.idp", "damaged");
+  ASSERT_EQ(RunOnCopies(), 0) << Said();
+  EXPECT_EQ(folder.Read("out/Data/PipeMaterial.idp"), Bytes(kShipped / "Data/PipeMaterial.idp"));
+  EXPECT_FALSE(folder.Has("out/Data/LayerManager/默认方案.idp.rescued-1"));
+}
+
+TEST_F(DataProgram, NamesTableLineAndReasonOfAFault) {
+  AppendTo("pipes.tsv", "GP\t镀锌钢管(普通)\tGB/T 3091\t0.2\tDN200\t200\t219\t6\t208\tx\tM");
+  EXPECT_EQ(RunOnCopies(), 1);
+  const std::string table = folder.Read("tables/pipes.tsv");
+  const auto lastLine = std::to_string(std::count(table.begin(), table.end(), '\n'));
+  EXPECT_NE(Said().find("pipes.tsv:" + lastLine + ": inner diameter"), std::string::npos) << Said();
+}
+
+struct Fault {
+  const char* table;
+  const char* line;
+  const char* reason;
+};
+
+class DataProgramFault : public DataProgram, public testing::WithParamInterface<Fault> {};
+
+TEST_P(DataProgramFault, EndsItWithTheReason) {
+  AppendTo(GetParam().table, GetParam().line);
+  EXPECT_EQ(RunOnCopies(), 1);
+  EXPECT_NE(Said().find(GetParam().reason), std::string::npos) << Said();
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Faults, DataProgramFault,
+    testing::Values(
+        Fault{"pipes.tsv", "GP\t镀锌钢管", "2 fields, not 11"},
+        Fault{"pipes.tsv", "GP\t镀锌钢管(普通)\tx\t0.2\tDN200\t200\t219\t\t207\tx\tM", "wall_mm: no number"},
+        Fault{"pipes.tsv", "GP\t镀锌钢管(普通)\tx\t0.5\tDN200\t200\t219\t6\t207\tx\tM", "two roughnesses"},
+        Fault{"pipes.tsv", "GP\t镀锌钢管(普通)\tx\t0.2\tDe200\t200\t219\t6\t207\tx\tM", "nominal: not DN"},
+        Fault{"pipes.tsv", "NEW\t新管材\tx\t0.2\tDN200\t200\t219\t6\t207\tx\tM", "no label for NEW"},
+        Fault{"layers.tsv", "公用\t标注\t公用标注\t另一层\t3\tDOT\t1\t0.18\tx\tx", "identifier twice"},
+        Fault{"layers.tsv", "公用\t标注\t另一标识\t暖通-公用-标注\t3\tDOT\t1\t0.18\tx\tx", "layer twice"},
+        Fault{"layers.tsv", "公用\t标注\t新\t新\t3.5\tDOT\t1\t0.18\tx\tx", "color: no whole number"}));
+
+TEST_F(DataProgram, EndsWithoutATable) {
+  fs::remove(folder.Root() / "tables/layers.tsv");
+  EXPECT_EQ(RunOnCopies(), 1);
+  EXPECT_NE(Said().find("layers.tsv"), std::string::npos);
+}
+
+TEST_F(DataProgram, EndsWhenAFileCannotBeWritten) {
+  folder.Write("out/Data", "a file where the folder should be");
+  EXPECT_EQ(RunOnCopies(), 1);
+}
+
+TEST_F(DataProgram, AsksForTwoArguments) {
+  EXPECT_EQ(Run(""), 2);
+  EXPECT_EQ(Run("one"), 2);
+  EXPECT_NE(Said().find("Usage"), std::string::npos);
+}
+
+} // namespace
