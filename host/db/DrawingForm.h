@@ -28,6 +28,16 @@ struct DrawingForm {
     DxfRecord tail;              // from "0 ENDSEC" to the next section
   };
   std::vector<Section> sections;
+  // A record that belongs to nothing the host knows (a second ENDTAB, a table of no known kind), kept behind
+  // what it stood behind.
+  struct Stray {
+    enum Place { behindHead, behindRecord, behindEnd };
+    std::size_t section = 0; // behindHead: of which section
+    AcDbObjectId object;     // behindRecord: of which object; behindEnd: of which table
+    Place place = behindHead;
+    DxfRecord text;
+  };
+  std::vector<Stray> strays;
   // The next free handle when reading had ended. Old drawings may go without handles in the file: as long as
   // nothing was added, their own seed stands.
   AcDbHandle seedAfterReading;

@@ -15,6 +15,10 @@ DxfRecord DxfRecord::partOf(std::shared_ptr<const std::string> source, std::stri
   return record;
 }
 
+DxfRecord DxfRecord::part(std::size_t begin, std::size_t size) const {
+  return partOf(m_source, m_text.substr(begin, size));
+}
+
 std::string_view DxfRecord::type() const {
   DxfTagReader reader(m_text);
   DxfTag tag;

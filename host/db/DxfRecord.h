@@ -17,6 +17,9 @@ class DxfRecord {
   // A record that is a part of a larger text, such as a file as read; it keeps that text alive.
   static DxfRecord partOf(std::shared_ptr<const std::string> source, std::string_view part);
 
+  // A piece of this record's text, which it keeps alive in the same way.
+  DxfRecord part(std::size_t begin, std::size_t size = std::string_view::npos) const;
+
   bool isEmpty() const { return m_text.empty(); }
   // The tags, each as "code LF value LF", beginning with the record's type (0).
   std::string_view text() const { return m_text; }

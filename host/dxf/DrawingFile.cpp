@@ -9,6 +9,12 @@ namespace {
 
 constexpr std::uint64_t kMaxFileSize = std::uint64_t{4} << 30;
 
+// The other form of drawings begins with its version at once, without a group code ahead of it.
+bool isDwg(std::string_view bytes) {
+  return bytes.starts_with("AC10") || bytes.starts_with("AC1.") || bytes.starts_with("AC2.") ||
+         bytes.starts_with("MC0.0");
+}
+
 } // namespace
 
 dxf::ReadReport dxf::ReadDrawing(const CString& path, AcDbDatabase& database, const ReadOptions& options) {
@@ -23,7 +29,7 @@ dxf::ReadReport dxf::ReadDrawingBytes(std::string bytes, const CString& name, Ac
   ReadReport report;
   CString trouble;
   DrawingForm& form = database.form();
-  if (bytes.starts_with("AC10") && !bytes.starts_with("AC1009\n")) {
+  if (isDwg(bytes)) {
     report.error = name + L"：这是 DWG 文件，请先转换为 DXF（可安装 dwg2dxf 或 ODA 转换器）";
     return report;
   }
@@ -46,7 +52,7 @@ dxf::ReadReport dxf::ReadDrawingBytes(std::string bytes, const CString& name, Ac
   }
   report.ok = true;
   report.repairs = reader.takeRepairs();
-  for (const CString& note : {decoded.note, trouble})
-    if (!note.IsEmpty()) report.repairs.insert(report.repairs.begin(), Repair{0, -1, note});
+  if (!trouble.IsEmpty()) decoded.notes.push_back(trouble);
+  for (const CString& note : decoded.notes) report.repairs.insert(report.repairs.begin(), {0, -1, note});
   return report;
 }

@@ -42,11 +42,12 @@ ReadReport ReadDrawingBytes(std::string bytes, const CString& name, AcDbDatabase
 struct WriteReport {
   bool ok = false;
   CString error;
+  std::vector<CString> losses; // what the drawing has and its file version can't hold, a sentence each
 };
 
 // Writes atomically: on failure the old file is as it was.
 WriteReport WriteDrawing(AcDbDatabase& database, const CString& path);
-std::string WriteDrawingBytes(AcDbDatabase& database);
+std::string WriteDrawingBytes(AcDbDatabase& database, std::vector<CString>* losses = nullptr);
 
 // Fills a fresh AcDbDatabase(false) with an empty metric drawing that other programs open without complaint.
 void BuildNewDrawing(AcDbDatabase& database);

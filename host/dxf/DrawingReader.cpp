@@ -7,9 +7,9 @@
 #include "host/db/AcDbTables.h"
 #include "host/db/AcDbUnknownEntity.h"
 #include "host/db/AcDbUnknownObject.h"
-#include "host/db/BlockCycle.h"
 #include "host/db/DxfRecordEditor.h"
 #include "host/db/DxfText.h"
+#include "host/dxf/BlockCycles.h"
 
 #include <algorithm>
 
@@ -38,6 +38,24 @@ CString nameOf(DxfTags tags) {
   for (const DxfTag& tag : dxfOwnTags(tags))
     if (tag.code == 2) return dxf::decodeText(dxf::trimBlanks(tag.value));
   return {};
+}
+
+// The beginning of a text of any length, for a message.
+CString shown(std::string_view value) {
+  constexpr std::size_t kBytes = 160;
+  constexpr int kCharacters = 40;
+  return dxf::decodeText(dxf::trimBlanks(value.substr(0, kBytes))).Left(kCharacters);
+}
+
+// Whether a record announces sub-entities: group 66, which means this in every entity that has it.
+bool announcesSubEntities(DxfTags tags) {
+  bool inGroup = false;
+  for (const DxfTag& tag : tags) {
+    if (tag.code >= 1000 || tag.code == 101) return false;
+    if (tag.code == 102) inGroup = tag.value.starts_with("{");
+    if (tag.code == 66 && !inGroup) return dxf::trimBlanks(tag.value) == "1";
+  }
+  return false;
 }
 
 } // namespace
@@ -120,11 +138,25 @@ CString dxf::DrawingReader::read() {
 void dxf::DrawingReader::keepStrayRecord() {
   DrawingForm& form = m_database.form();
   const DxfTag& tag = m_scanner.tags().front();
-  m_context.repaired(tag, quoted(L"记录“%s”不在任何段内，原样保留", decodeText(tag.value).Left(40)));
+  m_context.repaired(tag, quoted(L"记录“%s”不在任何段内，原样保留", shown(tag.value)));
+  reserveHandleOf(m_scanner.tags());
   DxfRecord& before = form.sections.empty() ? form.preamble : form.sections.back().tail;
   const std::string_view stray = m_scanner.recordText();
   const char* begin = before.isEmpty() ? stray.data() : before.text().data();
   before = DxfRecord::partOf(m_text, {begin, static_cast<std::size_t>(stray.data() + stray.size() - begin)});
+}
+
+// The same within a section, where objects stand between.
+void dxf::DrawingReader::keepBehind(DrawingForm::Stray::Place place, const AcDbObjectId& object) {
+  DrawingForm& form = m_database.form();
+  reserveHandleOf(m_scanner.tags());
+  form.strays.push_back({form.sections.size() - 1, object, place, currentRecord()});
+}
+
+// What is kept without being understood must not meet its handle again in a new object.
+void dxf::DrawingReader::reserveHandleOf(DxfTags tags) {
+  for (const int code : {5, 105})
+    if (const DxfTag* tag = headTag(tags, code)) m_database.reserveHandle(AcDbHandle::fromHex(tag->value));
 }
 
 void dxf::DrawingReader::readSection() {
@@ -166,22 +198,27 @@ void dxf::DrawingReader::endSection(DrawingForm::Section& section) {
                        quoted(L"段“%s”缺少 ENDSEC，保存时补上", CString::FromUtf8(section.name)));
 }
 
-// The variables stand in the section's own record, behind its name.
+// The variables stand in the section's own record, behind its name. A second header is kept and not looked
+// at.
 void dxf::DrawingReader::readHeader(DrawingForm::Section& section) {
-  const DxfTags tags = m_scanner.tags();
-  std::size_t first = 0;
-  while (first < tags.size() && tags[first].code != 9) ++first;
-  const std::string_view record = m_scanner.recordText();
-  std::size_t headSize = record.size();
-  if (first < tags.size()) { // up to the line of the code 9
-    const char* value = tags[first].value.data();
-    headSize = record.rfind('\n', static_cast<std::size_t>(value - record.data()) - 2);
-    headSize = headSize == record.npos ? 0 : headSize + 1;
+  const DxfRecord record = currentRecord();
+  const std::string_view text = record.text();
+  std::size_t headSize = text.size();
+  std::size_t tagStart = 0;
+  DxfTagReader reader(text);
+  for (DxfTag tag; m_sectionCounts["HEADER"] == 1 && reader.next(tag);) {
+    if (tag.code == 9) {
+      headSize = tagStart;
+      break;
+    }
+    tagStart = static_cast<std::size_t>(tag.value.data() + tag.value.size() - text.data()) + 1;
   }
-  section.head = DxfRecord::partOf(m_text, record.substr(0, headSize));
-  m_database.header().setRecord(DxfRecord::partOf(m_text, record.substr(headSize)), {}, m_context);
-  if (const auto seed = m_database.header().text("$HANDSEED"))
-    m_database.reserveHandle(AcDbHandle(AcDbHandle::fromHex(seed->ToUtf8()).value() - 1));
+  section.head = record.part(0, headSize);
+  if (headSize < text.size()) {
+    m_database.header().setRecord(record.part(headSize), {}, m_context);
+    if (const auto seed = m_database.header().text("$HANDSEED"))
+      m_database.reserveHandle(AcDbHandle(AcDbHandle::fromHex(seed->ToUtf8()).value() - 1));
+  }
   nextRecord();
 }
 
@@ -192,94 +229,118 @@ void dxf::DrawingReader::readClasses() {
 void dxf::DrawingReader::readWhole(DrawingForm::Section& section) {
   const char* begin = m_scanner.recordText().data() + m_scanner.recordText().size();
   const char* end = begin;
-  while (nextRecord() && !atSectionEnd()) end = m_scanner.recordText().data() + m_scanner.recordText().size();
-  section.body = DxfRecord::partOf(m_text, {begin, static_cast<std::size_t>(end - begin)});
+  std::string mended; // instead, as soon as a number had to be mended
+  bool isMended = false;
+  while (nextRecord() && !atSectionEnd()) {
+    reserveHandleOf(m_scanner.tags());
+    if (!m_scanner.badReals().empty() && !isMended) {
+      mended.assign(begin, end);
+      isMended = true;
+    }
+    if (isMended)
+      mended += currentRecord().text();
+    else
+      end = m_scanner.recordText().data() + m_scanner.recordText().size();
+  }
+  section.body = isMended ? DxfRecord::own(std::move(mended))
+                          : DxfRecord::partOf(m_text, {begin, static_cast<std::size_t>(end - begin)});
 }
 
 // --- tables
 // ----------------------------------------------------------------------------------------------------
 
 void dxf::DrawingReader::readTables() {
-  bool more = nextRecord();
   std::vector<AcDbObjectId> order;
+  AcDbSymbolTable* last = nullptr;
+  m_strayTable = nullptr;
+  bool more = nextRecord();
   while (more && !atSectionEnd()) {
-    if (m_scanner.type() != "TABLE") {
-      readStrayTableEntry();
+    AcDbSymbolTable* table =
+        m_scanner.type() == "TABLE" ? m_database.tableOf(nameOf(m_scanner.tags()).ToUtf8()) : nullptr;
+    if (!table) {
+      readStrayOfTables(last);
       more = nextRecord();
       continue;
     }
-    AcDbSymbolTable* table = m_database.tableOf(nameOf(m_scanner.tags()).ToUtf8());
-    if (table) order.push_back(table->objectId());
-    readTable();
-    if (!m_ended && m_scanner.type() == "ENDTAB")
-      more = nextRecord();
-    else
-      more = !m_ended;
+    last = table;
+    m_strayTable = nullptr;
+    if (std::find(order.begin(), order.end(), table->objectId()) == order.end())
+      order.push_back(table->objectId());
+    readTable(*table);
+    more = !m_ended && (m_scanner.type() != "ENDTAB" || nextRecord());
   }
   // Tables in the order of the file; those that it lacks stand behind.
   auto& tables = m_database.tables();
   for (const AcDbObjectId& id : tables)
     if (std::find(order.begin(), order.end(), id) == order.end()) order.push_back(id);
-  if (order.size() == tables.size()) tables = order;
+  tables = std::move(order);
 }
 
-void dxf::DrawingReader::readStrayTableEntry() {
+// What stands in no table that the host knows. Entries go to their table, everything else is kept in its
+// place.
+void dxf::DrawingReader::readStrayOfTables(AcDbSymbolTable* before) {
   const DxfTag& tag = m_scanner.tags().front();
   if (AcDbSymbolTable* table = m_database.tableOf(m_scanner.type())) {
     m_context.repaired(tag, L"表项不在任何表内，已并入所属的表");
     readTableEntry(*table);
-  } else if (m_scanner.type() == "ENDTAB" || m_options.recover) {
-    m_context.repaired(tag, quoted(L"多余的“%s”已丢弃", decodeText(tag.value).Left(40)));
-  } else {
-    m_error.Format(L"第 %d 行：应为 TABLE 或 ENDSEC，实际为“%s”", m_scanner.lineOf(tag.value.data()),
-                   decodeText(tag.value).Left(40));
-    m_ended = true;
-  }
-}
-
-void dxf::DrawingReader::readTable() {
-  const CString name = nameOf(m_scanner.tags());
-  AcDbSymbolTable* table = m_database.tableOf(name.ToUtf8());
-  if (!table) {
-    // A table that no version has: as good as lost to anybody, but its tags are kept with the section.
-    m_error.Format(L"第 %d 行：未知的表“%s”", m_scanner.lineOf(m_scanner.recordText().data()), name);
-    m_ended = true;
+    m_strayTable = table;
     return;
   }
-  if (table->isImplicit()) {
-    table->setImplicit(false);
-    decodeInto(*table);
-    adopt(*table);
+  if (m_scanner.type() == "ENDTAB" && m_strayTable && m_strayTable->endRecord().isEmpty()) {
+    m_strayTable->setEndRecord(currentRecord());
+    return;
+  }
+  m_context.repaired(tag, quoted(L"记录“%s”不属于任何已知的表，原样保留", shown(tag.value)));
+  if (before)
+    keepBehind(DrawingForm::Stray::behindEnd, before->objectId());
+  else
+    keepBehind(DrawingForm::Stray::behindHead);
+}
+
+void dxf::DrawingReader::readTable(AcDbSymbolTable& table) {
+  const CString name = CString::FromUtf8(table.recordType());
+  if (table.isImplicit()) {
+    table.setImplicit(false);
+    decodeInto(table);
+    adopt(table);
   } else {
     m_context.repaired(m_scanner.tags().front(), quoted(L"表“%s”重复，表项并入前一个", name));
   }
-  while (nextRecord() && !atSectionEnd()) {
+  AcDbObjectId before = table.objectId();
+  while (nextRecord() && !atSectionEnd() && m_scanner.type() != "TABLE") {
     if (m_scanner.type() == "ENDTAB") {
-      table->setEndRecord(currentRecord());
+      if (table.endRecord().isEmpty()) table.setEndRecord(currentRecord());
       return;
     }
-    if (m_scanner.type() == "TABLE") break;
-    readTableEntry(*table);
+    if (m_scanner.type() == table.recordType()) {
+      before = readTableEntry(table);
+    } else if (AcDbSymbolTable* other = m_database.tableOf(m_scanner.type())) {
+      m_context.repaired(m_scanner.tags().front(), quoted(L"表“%s”中有别的表的表项，已并入所属的表", name));
+      readTableEntry(*other);
+    } else {
+      m_context.repaired(m_scanner.tags().front(), quoted(L"表“%s”中有不属于它的记录，原样保留", name));
+      keepBehind(DrawingForm::Stray::behindRecord, before);
+    }
   }
+  if (table.endRecord().isEmpty()) table.setEndRecord(DxfRecord::own(DxfRecordEditor::tag(0, "ENDTAB")));
   if (!m_ended) m_context.repaired(m_scanner.tags().front(), quoted(L"表“%s”缺少 ENDTAB，保存时补上", name));
 }
 
-void dxf::DrawingReader::readTableEntry(AcDbSymbolTable& table) {
-  const bool ownType = m_scanner.type() == table.recordType();
+AcDbObjectId dxf::DrawingReader::readTableEntry(AcDbSymbolTable& table) {
   const CString name = nameOf(m_scanner.tags());
   AcDbObjectId known;
   AcDbSymbolTableRecord* record = nullptr;
-  if (ownType && table.getAt(name, known) == Acad::eOk) {
+  if (table.getAt(name, known) == Acad::eOk) {
     auto* existing = static_cast<AcDbSymbolTableRecord*>(known.object());
     if (existing->isImplicit())
       record = existing;
     else if (table.recordType() != "VPORT") // several viewports share one name
-      m_context.repaired(m_scanner.tags().front(), quoted(L"表项“%s”重名，保留但按名称只用第一个", name));
+      m_context.repaired(m_scanner.tags().front(),
+                         quoted(L"表项“%s”重名，保留但按名称只用第一个", name.Left(40)));
   }
   const bool isNew = !record;
   if (isNew) {
-    record = static_cast<AcDbSymbolTableRecord*>(
-        (ownType ? table.recordClass() : AcDbSymbolTableRecord::desc())->create());
+    record = static_cast<AcDbSymbolTableRecord*>(table.recordClass()->create());
     m_database.addAcDbObject(record, table.objectId());
     record->close();
   }
@@ -289,9 +350,10 @@ void dxf::DrawingReader::readTableEntry(AcDbSymbolTable& table) {
   adopt(*record, table.recordType() == "DIMSTYLE" ? 105 : 5);
   if (isNew) table.file(*record);
   const bool anonymous = !name.IsEmpty() && name[0] == L'*';
-  if (!anonymous && !AcDbSymbolTableRecord::isValidSymbolName(name) && ownType &&
-      table.recordType() == "LAYER")
-    m_context.repaired(m_scanner.tags().front(), quoted(L"图层名“%s”含禁用字符或为空，保留原样", name));
+  if (!anonymous && table.recordType() == "LAYER" && !AcDbSymbolTableRecord::isValidSymbolName(name))
+    m_context.repaired(m_scanner.tags().front(),
+                       quoted(L"图层名“%s”含禁用字符、为空或过长，保留原样", name.Left(40)));
+  return record->objectId();
 }
 
 // --- blocks and entities
@@ -303,7 +365,8 @@ AcDbBlockTableRecord& dxf::DrawingReader::blockNamed(const CString& name) {
   if (table.getAt(name, id) == Acad::eOk) {
     auto* found = static_cast<AcDbBlockTableRecord*>(id.object());
     if (found->blockBeginId().isNull()) return *found;
-    m_context.repaired(m_scanner.tags().front(), quoted(L"块“%s”重名，保留但按名称只用第一个", name));
+    m_context.repaired(m_scanner.tags().front(),
+                       quoted(L"块“%s”重名，保留但按名称只用第一个", name.Left(40)));
   }
   auto* record = new AcDbBlockTableRecord;
   m_database.addAcDbObject(record, table.objectId());
@@ -314,26 +377,45 @@ AcDbBlockTableRecord& dxf::DrawingReader::blockNamed(const CString& name) {
   return *record;
 }
 
+// Model or paper space, whether or not its BLOCK was read.
+AcDbBlockTableRecord& dxf::DrawingReader::spaceNamed(const wchar_t* name) {
+  AcDbObjectId id;
+  const AcDbSymbolTable& table = *m_database.tableOf("BLOCK_RECORD");
+  return table.getAt(name, id) == Acad::eOk ? *static_cast<AcDbBlockTableRecord*>(id.object())
+                                            : blockNamed(name);
+}
+
 void dxf::DrawingReader::readBlocks() {
+  AcDbObjectId last; // end mark of the block read before
   while (!m_ended) {
     // A block leaves its ENDBLK as the current record, or what follows when that is missing.
     if (m_scanner.type() != "BLOCK" && (!nextRecord() || atSectionEnd())) return;
     if (m_scanner.type() == "BLOCK") {
-      readBlock();
+      const AcDbBlockTableRecord& block = readBlock();
+      last = block.blockEndId();
       if (!m_ended && atSectionEnd()) return;
       continue;
     }
+    if (m_scanner.type() == "ENDBLK") {
+      m_context.repaired(m_scanner.tags().front(), L"多余的 ENDBLK，原样保留");
+      if (last.isNull())
+        keepBehind(DrawingForm::Stray::behindHead);
+      else
+        keepBehind(DrawingForm::Stray::behindRecord, last);
+      continue;
+    }
     m_context.repaired(m_scanner.tags().front(), L"不在任何块内的实体，已移入模型空间");
-    readEntityInto(blockNamed(ACDB_MODEL_SPACE));
+    readEntityInto(spaceNamed(ACDB_MODEL_SPACE));
   }
 }
 
-void dxf::DrawingReader::readBlock() {
+AcDbBlockTableRecord& dxf::DrawingReader::readBlock() {
   const CString name = AcDbBlockBegin::nameIn(m_scanner.tags());
   AcDbBlockTableRecord& block = blockNamed(name);
   m_database.form().blockOrder.push_back(block.objectId());
   m_context.defined(block.objectId());
   m_parent = nullptr;
+  const char* const place = m_scanner.recordText().data();
   auto* begin = new AcDbBlockBegin;
   m_database.addAcDbObject(begin, block.objectId());
   begin->close();
@@ -349,25 +431,21 @@ void dxf::DrawingReader::readBlock() {
       adopt(*end);
       block.setEnd(end->objectId());
       m_parent = nullptr;
-      return;
+      return block;
     }
     if (m_scanner.type() == "BLOCK") break;
     readEntityInto(block);
   }
   if (!m_ended || m_options.recover)
-    m_context.repairedAt(begin->record().text().data(), 0, quoted(L"块“%s”缺少 ENDBLK，保存时补上", name));
+    m_context.repairedAt(place, 0, quoted(L"块“%s”缺少 ENDBLK，保存时补上", name.Left(40)));
+  return block;
 }
 
 void dxf::DrawingReader::readEntities() {
   AcDbBlockTableRecord* model = nullptr;
   AcDbBlockTableRecord* paper = nullptr;
   const auto space = [&](AcDbBlockTableRecord*& cached, const wchar_t* name) -> AcDbBlockTableRecord& {
-    if (!cached) {
-      AcDbObjectId id;
-      AcDbSymbolTable& table = *m_database.tableOf("BLOCK_RECORD");
-      cached = table.getAt(name, id) == Acad::eOk ? static_cast<AcDbBlockTableRecord*>(id.object())
-                                                  : &blockNamed(name);
-    }
+    if (!cached) cached = &spaceNamed(name);
     return *cached;
   };
   while (nextRecord() && !atSectionEnd()) {
@@ -397,28 +475,40 @@ void dxf::DrawingReader::readEntityInto(AcDbBlockTableRecord& block) {
   AcDbEntity* entity = readEntity(block.objectId());
   entity->setRank(++m_rank);
   block.file(entity->objectId());
-  const bool announced = [&] {
-    for (const DxfTag& tag : dxfOwnTags(m_scanner.tags()))
-      if (tag.code == 66) return trimBlanks(tag.value) == "1";
-    return false;
-  }();
-  if (announced || type == "POLYLINE" || type == "INSERT") {
+  if (type == "INSERT" && AcDbBlockReference::cast(entity))
+    m_insertions.push_back(static_cast<const AcDbBlockReference*>(entity));
+  if (type == "POLYLINE" || type == "INSERT" || announcesSubEntities(m_scanner.tags())) {
     m_parent = entity;
     m_parentHasChildren = false;
   }
 }
 
-AcDbObject* dxf::DrawingReader::makeObject(const AcRxClass* base, AcDbObject* unknown) const {
-  const AcRxClass* type = AcRxClass::findByDxfName(m_scanner.type());
-  if (!type || !type->isDerivedFrom(base)) return unknown;
+const AcRxClass* dxf::DrawingReader::classOfRecord() {
+  const auto [entry, isNew] = m_classes.try_emplace(m_scanner.type(), nullptr);
+  if (isNew) entry->second = AcRxClass::findByDxfName(m_scanner.type());
+  return entry->second;
+}
+
+// What is no entity of a class that the host makes is an entity all the same. The marks of a block are none.
+AcDbEntity* dxf::DrawingReader::makeEntity() {
+  const AcRxClass* type = classOfRecord();
+  const bool isMark = type == AcDbBlockBegin::desc() || type == AcDbBlockEnd::desc();
+  if (!type || isMark || !type->isDerivedFrom(AcDbEntity::desc())) return new AcDbUnknownEntity;
+  auto* made = static_cast<AcDbEntity*>(type->create());
+  return made ? made : new AcDbUnknownEntity;
+}
+
+AcDbObject* dxf::DrawingReader::makeObject() {
+  const AcRxClass* type = classOfRecord();
+  if (!type || !type->isDerivedFrom(AcDbObject::desc()) || type->isDerivedFrom(AcDbEntity::desc()) ||
+      type->isDerivedFrom(AcDbSymbolTableRecord::desc()))
+    return new AcDbUnknownObject;
   auto* made = static_cast<AcDbObject*>(type->create());
-  if (!made) return unknown;
-  delete unknown;
-  return made;
+  return made ? made : new AcDbUnknownObject;
 }
 
 AcDbEntity* dxf::DrawingReader::readEntity(const AcDbObjectId& owner) {
-  auto* entity = static_cast<AcDbEntity*>(makeObject(AcDbEntity::desc(), new AcDbUnknownEntity));
+  AcDbEntity* entity = makeEntity();
   m_database.addAcDbObject(entity, owner);
   entity->close();
   decodeInto(*entity);
@@ -428,7 +518,7 @@ AcDbEntity* dxf::DrawingReader::readEntity(const AcDbObjectId& owner) {
 
 void dxf::DrawingReader::readObjects() {
   while (nextRecord() && !atSectionEnd()) {
-    AcDbObject* object = makeObject(AcDbObject::desc(), new AcDbUnknownObject);
+    AcDbObject* object = makeObject();
     m_database.addToObjects(object, {});
     object->close();
     decodeInto(*object);
@@ -442,25 +532,27 @@ void dxf::DrawingReader::readObjects() {
 // -----------------------------------------------------------------------------------------------------
 
 // Numbers that are none are mended in the record itself, so that no file of ours holds one.
-void dxf::DrawingReader::decodeInto(AcDbObject& object) {
-  if (m_scanner.badReals().empty()) {
-    object.setRecord(currentRecord(), m_scanner.tags(), m_context);
-    return;
-  }
+DxfRecord dxf::DrawingReader::currentRecord() const {
+  const auto& bad = m_scanner.badReals();
+  if (bad.empty()) return DxfRecord::partOf(m_text, m_scanner.recordText());
   std::string text;
   std::size_t next = 0;
-  const auto& bad = m_scanner.badReals();
   for (std::size_t i = 0; i < m_scanner.tags().size(); ++i) {
     const DxfTag& tag = m_scanner.tags()[i];
     const bool isBad = next < bad.size() && bad[next] == i;
     text += DxfRecordEditor::tag(tag.code, isBad ? "0.0" : tag.value);
     if (!isBad) continue;
     ++next;
-    CString what;
-    what.Format(L"“%s”不是有限的数，已改为 0.0", decodeText(tag.value).Left(40));
-    m_context.repaired(tag, what);
+    m_context.repaired(tag, quoted(L"“%s”不是有限的数，已改为 0.0", shown(tag.value)));
   }
-  object.setRecord(DxfRecord::own(std::move(text)), m_context);
+  return DxfRecord::own(std::move(text));
+}
+
+void dxf::DrawingReader::decodeInto(AcDbObject& object) {
+  if (m_scanner.badReals().empty())
+    object.setRecord(currentRecord(), m_scanner.tags(), m_context);
+  else
+    object.setRecord(currentRecord(), m_context);
 }
 
 void dxf::DrawingReader::adopt(AcDbObject& object, int handleCode) {
@@ -477,7 +569,7 @@ void dxf::DrawingReader::adopt(AcDbObject& object, int handleCode) {
   if (m_database.giveHandle(object, handle)) return;
   m_context.repaired(
       *tag, quoted(handle.isNull() ? L"“%s”不是有效的句柄，已换新句柄" : L"句柄 %s 重复，后一个已换新句柄",
-                   decodeText(tag->value)));
+                   shown(tag->value)));
   object.invalidateRecord();
 }
 
@@ -492,16 +584,18 @@ void dxf::DrawingReader::finish() {
   for (const CString& added : m_database.completeStandardEntries())
     if (needsStandardEntries) m_context.repairedAt(nullptr, -1, quoted(L"缺少标准表项 %s，已补上", added));
   m_database.completeBlocks();
-  for (const AcDbObjectId& id : m_database.form().blockOrder) {
-    const auto* block = static_cast<const AcDbBlockTableRecord*>(id.object());
-    for (const AcDbObjectId& inner : block->entities()) {
-      const auto* reference = AcDbBlockReference::cast(inner.object());
-      if (!reference || !blockContains(reference->blockTableRecord(), id)) continue;
-      m_context.repairedAt(reference->record().text().data(), 2,
-                           quoted(L"块“%s”直接或间接包含自身，显示时不展开", block->name()));
-      break;
-    }
-  }
+  reportCycles();
   m_database.form().seedAfterReading = m_database.handseed();
   m_database.setModified(false);
+}
+
+void dxf::DrawingReader::reportCycles() {
+  AcDbObjectId told;
+  for (const AcDbBlockReference* reference : insertionsInCycles(m_insertions)) {
+    if (reference->ownerId() == told) continue;
+    told = reference->ownerId();
+    const auto* block = static_cast<const AcDbBlockTableRecord*>(told.object());
+    m_context.repairedAt(reference->record().text().data(), 2,
+                         quoted(L"块“%s”直接或间接包含自身，显示时不展开", block->name().Left(40)));
+  }
 }

@@ -5,7 +5,9 @@
 #include "host/dxf/ReadContext.h"
 
 #include <map>
+#include <unordered_map>
 
+class AcDbBlockReference;
 class AcDbBlockTableRecord;
 class AcDbEntity;
 class AcDbSymbolTable;
@@ -25,19 +27,21 @@ class DrawingReader {
   // To the next record; false at the end of the section, of the file, at a broken line or when cancelled.
   bool nextRecord();
   bool atSectionEnd() const;
-  DxfRecord currentRecord() const { return DxfRecord::partOf(m_text, m_scanner.recordText()); }
+  DxfRecord currentRecord() const;
   void decodeInto(AcDbObject& object);
 
   void readSection();
   void keepStrayRecord();
+  void keepBehind(DrawingForm::Stray::Place place, const AcDbObjectId& object = {});
+  void reserveHandleOf(DxfTags tags);
   void readHeader(DrawingForm::Section& section);
   void readClasses();
   void readTables();
-  void readTable();
-  void readStrayTableEntry();
-  void readTableEntry(AcDbSymbolTable& table);
+  void readTable(AcDbSymbolTable& table);
+  void readStrayOfTables(AcDbSymbolTable* before);
+  AcDbObjectId readTableEntry(AcDbSymbolTable& table);
   void readBlocks();
-  void readBlock();
+  AcDbBlockTableRecord& readBlock();
   void readEntities();
   void readObjects();
   void readWhole(DrawingForm::Section& section);
@@ -46,9 +50,13 @@ class DrawingReader {
   AcDbEntity* readEntity(const AcDbObjectId& owner);
   void readEntityInto(AcDbBlockTableRecord& block);
   AcDbBlockTableRecord& blockNamed(const CString& name);
-  AcDbObject* makeObject(const AcRxClass* base, AcDbObject* unknown) const;
+  AcDbBlockTableRecord& spaceNamed(const wchar_t* name);
+  const AcRxClass* classOfRecord();
+  AcDbEntity* makeEntity();
+  AcDbObject* makeObject();
   void adopt(AcDbObject& object, int handleCode = 5);
   void finish();
+  void reportCycles();
 
   AcDbDatabase& m_database;
   std::shared_ptr<const std::string> m_text;
@@ -61,6 +69,9 @@ class DrawingReader {
   bool m_parentHasChildren = false;
   std::uint32_t m_rank = 0;
   std::map<std::string, int> m_sectionCounts;
+  std::unordered_map<std::string_view, const AcRxClass*> m_classes; // by record type, null for unknown ones
+  std::vector<const AcDbBlockReference*> m_insertions;
+  AcDbSymbolTable* m_strayTable = nullptr; // whose entries stood outside a table just now
   std::size_t m_withoutHandle = 0;
   std::size_t m_recordCount = 0;
 };

@@ -10,6 +10,8 @@
 #include "host/dxf/FileEncoding.h"
 
 #include <algorithm>
+#include <set>
+#include <unordered_set>
 
 namespace {
 
@@ -26,7 +28,10 @@ const AcDbBlockTableRecord* blockOf(const AcDbObjectId& id) {
 } // namespace
 
 dxf::DrawingWriter::DrawingWriter(AcDbDatabase& database)
-    : m_database(database), m_form(database.form()), m_plain(isPlainForm(database.form())) {}
+    : m_database(database), m_form(database.form()), m_plain(isPlainForm(database.form())) {
+  for (const DrawingForm::Stray& stray : m_form.strays)
+    m_strays.insert({{stray.place, stray.object.stub(), stray.object ? 0 : stray.section}, &stray.text});
+}
 
 void dxf::DrawingWriter::flush() {
   if (m_plain)
@@ -44,16 +49,24 @@ void dxf::DrawingWriter::put(std::string_view text) {
     return;
   }
   flush();
+  endLine();
   m_pending = text;
 }
 
+// The last line of a file may lack its end, and what follows it now must not join it.
+void dxf::DrawingWriter::endLine() {
+  if (!m_out.empty() && m_out.back() != '\n') m_out += m_form.crlf ? "\r\n" : "\n";
+}
+
 void dxf::DrawingWriter::put(const AcDbObject& object) {
-  const std::string_view text = object.record().text();
-  put(text);
-  if (!text.empty() && text.back() != '\n') { // the last line of a file that was cut off behind it
-    flush();
-    m_out += m_form.crlf ? "\r\n" : "\n";
-  }
+  put(object.record().text());
+  if (!m_strays.empty()) putStrays(DrawingForm::Stray::behindRecord, object.objectId().stub());
+}
+
+void dxf::DrawingWriter::putStrays(DrawingForm::Stray::Place place, const AcDbStub* object,
+                                   std::size_t section) {
+  const auto [first, last] = m_strays.equal_range({place, object, section});
+  for (auto stray = first; stray != last; ++stray) put(stray->second->text());
 }
 
 void dxf::DrawingWriter::putEntity(const AcDbEntity& entity) {
@@ -114,7 +127,7 @@ std::string dxf::DrawingWriter::write() {
       if (stub.object->isKindOf(AcDbEntity::desc()) || stub.object->isKindOf(AcDbLayerTableRecord::desc()))
         stub.object->invalidateRecord();
   const auto list = sections();
-  std::vector<std::string> written;
+  std::set<std::string> written;
   put(m_form.preamble.text());
   std::vector<std::string> heads; // made here, alive until they are flushed
   heads.reserve(list.size());
@@ -122,14 +135,14 @@ std::string dxf::DrawingWriter::write() {
     const DrawingForm::Section& section = list[i];
     if (section.head.isEmpty()) put(heads.emplace_back(sectionHead(section.name)));
     put(section.head.text());
+    putStrays(DrawingForm::Stray::behindHead, nullptr, i);
     // Entities go to the section that they came from, the new ones to the last; what a second section of
     // another name held was taken into the first.
     if (section.name == "ENTITIES") {
       const auto next = std::find_if(list.begin() + static_cast<std::ptrdiff_t>(i) + 1, list.end(),
                                      [](const auto& other) { return other.name == "ENTITIES"; });
       writeEntities(next == list.end() ? ~std::uint32_t{0} : next->firstRank);
-    } else if (std::find(written.begin(), written.end(), section.name) == written.end()) {
-      written.push_back(section.name);
+    } else if (written.insert(section.name).second) {
       writeSection(section.name);
     }
     put(section.body.text());
@@ -151,17 +164,25 @@ void dxf::DrawingWriter::writeSection(std::string_view name) {
   if (name == "OBJECTS") writeObjects();
 }
 
+// Above every handle that the file had or has now. What was added and taken back again leaves no trace.
+AcDbHandle dxf::DrawingWriter::neededSeed() const {
+  AcDbHandle highest;
+  for (const AcDbStub& stub : m_database.stubs())
+    if (stub.object && !stub.object->isErased()) highest = std::max(highest, stub.handle);
+  return std::max(m_form.seedAfterReading, AcDbHandle(highest.value() + 1));
+}
+
 void dxf::DrawingWriter::writeHeader() {
   AcDbHeader& header = m_database.header();
   const auto seed = header.text("$HANDSEED");
-  const AcDbHandle next = m_database.handseed();
-  const bool nothingAdded = !m_form.subclassMarkers() && next == m_form.seedAfterReading;
-  if (!seed || nothingAdded || AcDbHandle::fromHex(dxf::encodeText(*seed)) >= next) {
+  const AcDbHandle needed = neededSeed();
+  const bool nothingAdded = !m_form.subclassMarkers() && needed == m_form.seedAfterReading;
+  if (!seed || nothingAdded || AcDbHandle::fromHex(dxf::encodeText(*seed)) >= needed) {
     put(header.record().text());
     return;
   }
   const std::string text =
-      AcDbHeader::withVariable(header.record().text(), "$HANDSEED", DxfRecordEditor::tag(5, next.toHex()));
+      AcDbHeader::withVariable(header.record().text(), "$HANDSEED", DxfRecordEditor::tag(5, needed.toHex()));
   put(text);
   flush();
 }
@@ -172,7 +193,8 @@ void dxf::DrawingWriter::writeTables() {
     const auto& table = *static_cast<const AcDbSymbolTable*>(id.object());
     const auto& records = table.records();
     const bool old = !m_form.subclassMarkers();
-    if (old && table.recordType() == "BLOCK_RECORD" && table.isImplicit()) continue;
+    // Old drawings have no records of blocks; a few bring the table all the same.
+    if (old && table.recordType() == "BLOCK_RECORD" && table.endRecord().isEmpty()) continue;
     const bool any =
         std::any_of(records.begin(), records.end(), [&](const auto& r) { return isWanted(*r.object()); });
     if (table.isImplicit() && !any && m_form.version < "AC1015") continue;
@@ -180,14 +202,15 @@ void dxf::DrawingWriter::writeTables() {
     for (const AcDbObjectId& record : records)
       if (isWanted(*record.object())) put(*record.object());
     put(table.endRecord().isEmpty() ? std::string_view(endTable) : table.endRecord().text());
+    if (!m_strays.empty()) putStrays(DrawingForm::Stray::behindEnd, id.stub());
   }
 }
 
 void dxf::DrawingWriter::writeBlocks() {
   std::vector<AcDbObjectId> order = m_form.blockOrder;
+  const std::unordered_set<AcDbObjectId> ordered(order.begin(), order.end());
   for (const AcDbObjectId& id : m_database.tableOf("BLOCK_RECORD")->records())
-    if (std::find(m_form.blockOrder.begin(), m_form.blockOrder.end(), id) == m_form.blockOrder.end())
-      order.push_back(id);
+    if (!ordered.contains(id)) order.push_back(id);
   for (const AcDbObjectId& id : order) {
     const AcDbBlockTableRecord* block = blockOf(id);
     if (!block || block->isErased()) continue;
@@ -236,12 +259,31 @@ void dxf::DrawingWriter::writeObjects() {
     if (isWanted(*id.object())) put(*id.object());
 }
 
-std::string dxf::WriteDrawingBytes(AcDbDatabase& database) {
+std::vector<CString> dxf::DrawingWriter::losses() const {
+  const auto& objects = m_database.objects();
+  const auto count = std::count_if(objects.begin(), objects.end(), [](const AcDbObjectId& id) {
+    return !id.isErased() && !id.object()->isImplicit();
+  });
+  const bool written =
+      m_form.subclassMarkers() || std::any_of(m_form.sections.begin(), m_form.sections.end(),
+                                              [](const auto& section) { return section.name == "OBJECTS"; });
+  if (count == 0 || written) return {};
+  CString text;
+  text.Format(L"图形为 R12 格式，不能保存字典和扩展记录，%d 个对象未写入", count);
+  return {text};
+}
+
+std::string dxf::WriteDrawingBytes(AcDbDatabase& database, std::vector<CString>* losses) {
   database.completeBlocks();
-  return DrawingWriter(database).write();
+  DrawingWriter writer(database);
+  if (losses) *losses = writer.losses();
+  return writer.write();
 }
 
 dxf::WriteReport dxf::WriteDrawing(AcDbDatabase& database, const CString& path) {
-  const afx::FileResult result = afx::WriteFileAtomically(path, WriteDrawingBytes(database));
-  return {result.ok, result.message};
+  WriteReport report;
+  const afx::FileResult result = afx::WriteFileAtomically(path, WriteDrawingBytes(database, &report.losses));
+  report.ok = result.ok;
+  report.error = result.message;
+  return report;
 }

@@ -3,7 +3,9 @@
 
 #include "host/db/AcDbDatabase.h"
 
+#include <map>
 #include <string>
+#include <tuple>
 #include <vector>
 
 class AcDbBlockTableRecord;
@@ -17,6 +19,8 @@ class DrawingWriter {
 
   // The file's bytes, in its encoding.
   std::string write();
+  // What the version of the file can't hold, a sentence each.
+  std::vector<CString> losses() const;
 
  private:
   std::vector<DrawingForm::Section> sections() const;
@@ -33,7 +37,10 @@ class DrawingWriter {
   // Those ranked below endRank that are not written yet.
   void writeEntities(std::uint32_t endRank);
   void writeObjects();
+  void putStrays(DrawingForm::Stray::Place place, const AcDbStub* object, std::size_t section = 0);
+  void endLine();
   void flush();
+  AcDbHandle neededSeed() const;
 
   AcDbDatabase& m_database;
   const DrawingForm& m_form;
@@ -41,6 +48,8 @@ class DrawingWriter {
   std::string_view m_pending; // adjoining text that is not copied yet
   std::size_t m_modelWritten = 0;
   std::size_t m_paperWritten = 0;
+  using StrayKey = std::tuple<DrawingForm::Stray::Place, const AcDbStub*, std::size_t>;
+  std::multimap<StrayKey, const DxfRecord*> m_strays;
   bool m_plain;
 };
 

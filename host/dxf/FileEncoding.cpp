@@ -4,6 +4,7 @@
 #include "host/db/DxfTag.h"
 
 #include <algorithm>
+#include <cctype>
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
@@ -25,7 +26,9 @@ bool isAscii(std::string_view bytes) {
   return true;
 }
 
-void dropCarriageReturns(std::string& text) {
+// Gives how many line ends lost theirs.
+std::size_t dropCarriageReturns(std::string& text) {
+  std::size_t dropped = 0;
   char* out = text.data();
   const char* in = text.data();
   const char* const end = in + text.size();
@@ -36,9 +39,41 @@ void dropCarriageReturns(std::string& text) {
     out += stop - in;
     if (!cr) break;
     in = cr + 1;
-    if (in < end && *in != '\n') *out++ = '\r';
+    if (in < end && *in == '\n')
+      ++dropped;
+    else
+      *out++ = '\r';
   }
   text.resize(static_cast<std::size_t>(out - text.data()));
+  return dropped;
+}
+
+// UTF-8 throughout. The runs of ASCII, which are most of a drawing, are passed over in blocks.
+bool isUtf8(std::string_view bytes) {
+  for (std::size_t at = 0; at < bytes.size();) {
+    std::uint64_t block;
+    if (at + sizeof block <= bytes.size()) {
+      std::memcpy(&block, bytes.data() + at, sizeof block);
+      if (!(block & 0x8080808080808080ull)) {
+        at += sizeof block;
+        continue;
+      }
+    }
+    const auto isHigh = [&](std::size_t i) { return static_cast<unsigned char>(bytes[i]) >= 0x80; };
+    while (at < bytes.size() && !isHigh(at)) ++at;
+    std::size_t end = at;
+    while (end < bytes.size() && isHigh(end)) ++end;
+    if (!afx::IsUtf8(bytes.substr(at, end - at))) return false;
+    at = end;
+  }
+  return true;
+}
+
+// "AC1009" and above. Versions before it, and words that are none, go by the rules of AC1009.
+bool isVersion(std::string_view version) {
+  return version.size() == 6 && version.starts_with("AC1") &&
+         std::all_of(version.begin() + 3, version.end(),
+                     [](char c) { return std::isdigit(static_cast<unsigned char>(c)); });
 }
 
 // Version and code page stand near the beginning; the rest of the file is not looked at.
@@ -62,20 +97,21 @@ void readHeaderStrings(std::string_view text, DrawingForm& form, bool& hasCodePa
       hasCodePage = true;
     }
   }
-  if (!form.hasVersion) form.version = "AC1009";
+  if (!form.hasVersion || !isVersion(form.version)) form.version = "AC1009";
 }
 
 // A text in a double-byte code page can look like UTF-8 by chance, but then like characters of two bytes
 // only.
 bool looksLikeUtf8(std::string_view line) {
-  return afx::IsUtf8(line) &&
+  return isUtf8(line) &&
          std::any_of(line.begin(), line.end(), [](char c) { return static_cast<unsigned char>(c) >= 0xE0; });
 }
 
 struct LineCounts {
   std::size_t converted = 0; // from the code page
   std::size_t utf8 = 0;
-  std::size_t kept = 0; // undecodable, kept as bytes
+  std::size_t kept = 0;    // undecodable, kept as bytes
+  std::size_t changed = 0; // undecodable, and other bytes when written
 };
 
 template <typename Convert> std::string byLines(std::string_view text, Convert convert) {
@@ -95,26 +131,6 @@ template <typename Convert> std::string byLines(std::string_view text, Convert c
   return out;
 }
 
-std::string decodeLines(std::string_view text, const afx::CodePage& page, LineCounts& counts) {
-  return byLines(text, [&](std::string_view line, std::string& out) {
-    if (looksLikeUtf8(line)) {
-      ++counts.utf8;
-      out += line;
-      return;
-    }
-    const std::wstring wide = page.Decode(line);
-    const bool whole =
-        std::none_of(wide.begin(), wide.end(), [](wchar_t c) { return c >= 0xDC80 && c <= 0xDCFF; });
-    if (whole && page.Encode(wide) == line) {
-      ++counts.converted;
-      out += afx::WideToUtf8(wide);
-    } else {
-      ++counts.kept;
-      out += line;
-    }
-  });
-}
-
 void appendEscape(wchar_t c, std::string& out) {
   char buffer[16];
   const auto unit = [&](unsigned code) {
@@ -130,48 +146,84 @@ void appendEscape(wchar_t c, std::string& out) {
   }
 }
 
+// Text of a line that is written back as the same bytes. Bytes that the page doesn't explain stay as they
+// are, the characters around them where those come back; empty when nothing does.
+std::string keepingBytes(std::string_view line, const std::wstring& decoded, const afx::CodePage& page) {
+  for (const std::string& text : {afx::WideToUtf8(decoded), std::string(line)})
+    if (page.Encode(afx::Utf8ToWide(text), appendEscape) == line) return text;
+  return {};
+}
+
+std::string decodeLines(std::string_view text, const afx::CodePage& page, bool savedInPage,
+                        LineCounts& counts) {
+  return byLines(text, [&](std::string_view line, std::string& out) {
+    if (looksLikeUtf8(line)) {
+      ++counts.utf8;
+      out += line;
+      return;
+    }
+    const std::wstring wide = page.Decode(line);
+    const bool whole =
+        std::none_of(wide.begin(), wide.end(), [](wchar_t c) { return c >= 0xDC80 && c <= 0xDCFF; });
+    if (whole && page.Encode(wide) == line) {
+      ++counts.converted;
+      out += afx::WideToUtf8(wide);
+      return;
+    }
+    const std::string kept = savedInPage ? keepingBytes(line, wide, page) : std::string(line);
+    ++(kept.empty() ? counts.changed : counts.kept);
+    out += kept.empty() ? afx::WideToUtf8(wide) : kept;
+  });
+}
+
 } // namespace
 
 dxf::DecodedFile dxf::decodeFile(std::string bytes, DrawingForm& form) {
   DecodedFile file;
+  const auto note = [&](const wchar_t* format, auto... values) {
+    file.notes.emplace_back().Format(format, values...);
+  };
   if (bytes.starts_with("\xEF\xBB\xBF")) {
     bytes.erase(0, 3);
-    file.note = L"文件开头的 UTF-8 字节顺序标记已去掉";
+    note(L"文件开头的 UTF-8 字节顺序标记已去掉");
   }
   const auto firstEnd = bytes.find('\n');
   form.crlf = firstEnd != bytes.npos && firstEnd > 0 && bytes[firstEnd - 1] == '\r';
-  if (std::memchr(bytes.data(), '\r', std::min<std::size_t>(bytes.size(), 1 << 16)) || form.crlf)
-    dropCarriageReturns(bytes);
+  if (form.crlf || std::memchr(bytes.data(), '\r', bytes.size())) {
+    const std::size_t dropped = dropCarriageReturns(bytes);
+    const auto lines = static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n'));
+    if (dropped != (form.crlf ? lines : 0))
+      note(L"文件混用两种行尾，将统一为%s", form.crlf ? L"回车换行" : L"换行");
+  }
   bool hasCodePage = false;
   readHeaderStrings(bytes, form, hasCodePage);
   const bool unicodeVersion = form.version >= "AC1021";
   form.utf8 = unicodeVersion;
   const afx::CodePage* page = hasCodePage ? afx::CodePage::Find(form.codePage) : nullptr;
-  if (hasCodePage && !page && !unicodeVersion)
-    file.note.Format(L"代码页“%s”未知，按 %s 读入", CString::FromUtf8(form.codePage),
-                     CString::FromUtf8(kDefaultCodePage));
-  if (!page) page = afx::CodePage::Find(kDefaultCodePage);
   if (!hasCodePage) form.codePage.clear();
   if (isAscii(bytes)) {
     file.text = std::move(bytes);
     return file;
   }
-  const bool strict = afx::IsUtf8(bytes);
-  if (strict && (unicodeVersion || looksLikeUtf8(bytes))) {
-    if (!unicodeVersion) file.note = L"文字实为 UTF-8，与文件头的代码页不符，按 UTF-8 读写";
+  const CString namedPage = CString::FromUtf8(form.codePage);
+  const bool unknownPage = hasCodePage && !page;
+  if (!page) page = afx::CodePage::Find(kDefaultCodePage);
+  const CString pageName = CString::FromUtf8(page->Name());
+  if (isUtf8(bytes) && (unicodeVersion || looksLikeUtf8(bytes))) {
+    if (!unicodeVersion) note(L"文字实为 UTF-8，与文件头的代码页不符，按 UTF-8 读写");
     form.utf8 = true;
     file.text = std::move(bytes);
     return file;
   }
+  if (unknownPage) note(L"代码页“%s”未知，按 %s 读写", namedPage, pageName);
+  form.codePage = page->Name();
   LineCounts counts;
-  file.text = decodeLines(bytes, *page, counts);
-  if (!hasCodePage && counts.converted > 0) form.codePage = page->Name();
+  file.text = decodeLines(bytes, *page, !form.utf8, counts);
   if (unicodeVersion && counts.converted > 0)
-    file.note.Format(L"%d 行文字不是 UTF-8，已按 %s 读入，将以 UTF-8 保存", counts.converted,
-                     CString::FromUtf8(page->Name()));
-  else if (counts.utf8 > 0)
-    file.note.Format(L"%d 行文字实为 UTF-8，将以 %s 保存", counts.utf8, CString::FromUtf8(page->Name()));
-  if (counts.kept > 0) file.note.AppendFormat(L"；%d 行含无法识别的字节，原样保留", counts.kept);
+    note(L"%d 行文字不是 UTF-8，已按 %s 读入，将以 UTF-8 保存", counts.converted, pageName);
+  if (!unicodeVersion && counts.utf8 > 0) note(L"%d 行文字实为 UTF-8，将以 %s 保存", counts.utf8, pageName);
+  if (counts.kept > 0) note(L"%d 行含无法识别的字节，原样保留", counts.kept);
+  if (counts.changed > 0) note(L"%d 行含无法识别的字节，保存后字节会改变", counts.changed);
   return file;
 }
 

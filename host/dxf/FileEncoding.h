@@ -7,12 +7,13 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace dxf {
 
 struct DecodedFile {
   std::string text;
-  CString note; // what was not as the header says; empty when all was well
+  std::vector<CString> notes; // what was not as the header says, a sentence each
 };
 
 // Sets version, code page, utf8 and crlf of form from the bytes. Text that contradicts the header is tried as

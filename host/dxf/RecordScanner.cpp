@@ -22,12 +22,27 @@ const std::array<bool, kCodeCount>& isRealCode() {
   return table;
 }
 
-// A quick look, not a parse: numbers begin and end with a digit or a point.
-bool looksLikeNumber(std::string_view value) {
+const char* skipDigits(const char* at, const char* end) {
+  while (at < end && static_cast<unsigned>(*at - '0') < 10) ++at;
+  return at;
+}
+
+// Looks at the form and parses only where the number may be too large to hold.
+bool isFiniteNumber(std::string_view value) {
   value = dxf::trimBlanks(value);
-  if (!value.empty() && (value.front() == '-' || value.front() == '+')) value.remove_prefix(1);
-  const auto digitOrPoint = [](char c) { return (c >= '0' && c <= '9') || c == '.'; };
-  return !value.empty() && digitOrPoint(value.front()) && digitOrPoint(value.back());
+  const char* at = value.data();
+  const char* const end = at + value.size();
+  if (at < end && (*at == '-' || *at == '+')) ++at;
+  const char* const whole = at;
+  at = skipDigits(at, end);
+  std::ptrdiff_t digits = at - whole;
+  if (at < end && *at == '.') {
+    const char* const fraction = ++at;
+    at = skipDigits(at, end);
+    digits += at - fraction;
+  }
+  if (at == end && digits > 0 && digits < 300) return true;
+  return dxf::toReal(value).has_value();
 }
 
 CString shown(std::string_view value) {
@@ -41,7 +56,7 @@ CString shown(std::string_view value) {
 } // namespace
 
 dxf::RecordScanner::RecordScanner(std::string_view text)
-    : m_text(text), m_at(text.data()), m_end(text.data() + text.size()) {
+    : m_text(text), m_at(text.data()), m_end(text.data() + text.size()), m_countedTo(text.data()) {
   while (m_at < m_end) {
     const char* start = m_at;
     if (!readTag(m_pending)) break;
@@ -75,7 +90,7 @@ bool dxf::RecordScanner::readTag(DxfTag& tag) {
     fail(start, problem);
     return false;
   }
-  if (!codeEnd) {
+  if (!codeEnd || codeEnd + 1 == m_end) {
     CString problem;
     problem.Format(L"文件在组码 %d 之后意外结束，缺少它的值", tag.code);
     fail(start, problem);
@@ -122,7 +137,7 @@ bool dxf::RecordScanner::next() {
       return true;
     }
     if (static_cast<unsigned>(tag.code) < kCodeCount && realCodes[static_cast<std::size_t>(tag.code)] &&
-        !looksLikeNumber(tag.value))
+        !isFiniteNumber(tag.value))
       m_badReals.push_back(m_tags.size());
     m_tags.push_back(tag);
   }
@@ -167,7 +182,13 @@ bool dxf::RecordScanner::resynchronise() {
 
 std::size_t dxf::RecordScanner::lineOf(const char* place) const {
   if (place < m_text.data() || place > m_end) return 0;
-  return 1 + static_cast<std::size_t>(std::count(m_text.data(), place, '\n'));
+  if (place < m_countedTo) {
+    m_countedTo = m_text.data();
+    m_linesCounted = 0;
+  }
+  m_linesCounted += static_cast<std::size_t>(std::count(m_countedTo, place, '\n'));
+  m_countedTo = place;
+  return 1 + m_linesCounted;
 }
 
 double dxf::RecordScanner::progress() const {

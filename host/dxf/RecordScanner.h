@@ -21,7 +21,7 @@ class RecordScanner {
   std::string_view type() const { return m_type; }
   std::string_view recordText() const { return m_record; }
   DxfTags tags() const { return m_tags; }
-  // Tags of this record whose value should be a finite number and plainly is none (NaN, inf, words).
+  // Tags of this record whose value should be a finite number and is none (NaN, inf, words, 1e999).
   const std::vector<std::size_t>& badReals() const { return m_badReals; }
   // From the current record to the end of the text.
   std::string_view restFromRecord() const;
@@ -55,6 +55,9 @@ class RecordScanner {
   std::vector<std::size_t> m_badReals;
   CString m_problem;
   std::size_t m_problemLine = 0;
+  // The place whose line was asked for last: places mostly come in the order of the text.
+  mutable const char* m_countedTo;
+  mutable std::size_t m_linesCounted = 0;
 };
 
 } // namespace dxf
