@@ -20,19 +20,17 @@ std::wstring folded(std::wstring_view name) {
 
 Acad::ErrorStatus AcDbSymbolTable::getAt(const wchar_t* name, AcDbObjectId& id, bool getErased) const {
   const std::wstring key = folded(name);
-  const auto [first, last] = m_byName.equal_range(key);
+  const auto entry = m_byName.find(key);
+  if (entry == m_byName.end()) return Acad::eKeyNotFound;
   AcDbObjectId erased;
-  // Of several that a damaged file gave one name, the first counts.
-  AcDbObjectId found;
-  for (auto entry = first; entry != last; ++entry) {
-    const auto* record = static_cast<const AcDbSymbolTableRecord*>(entry->second.object());
+  for (const AcDbObjectId& candidate : entry->second) {
+    const auto* record = static_cast<const AcDbSymbolTableRecord*>(candidate.object());
     if (folded(record->name().View()) != key) continue;
-    AcDbObjectId& slot = record->isErased() ? erased : found;
-    if (slot.isNull()) slot = entry->second;
-  }
-  if (!found.isNull()) {
-    id = found;
-    return Acad::eOk;
+    if (!record->isErased()) { // of several that a damaged file gave one name, the first counts
+      id = candidate;
+      return Acad::eOk;
+    }
+    if (erased.isNull()) erased = candidate;
   }
   if (erased.isNull()) return Acad::eKeyNotFound;
   if (!getErased) return Acad::eWasErased;
@@ -73,14 +71,12 @@ AcRxClass* AcDbSymbolTable::recordClass() const {
 
 void AcDbSymbolTable::file(AcDbSymbolTableRecord& record) {
   m_records.push_back(record.objectId());
-  nameChanged(record);
+  m_byName[folded(record.name().View())].push_back(record.objectId());
 }
 
 void AcDbSymbolTable::nameChanged(AcDbSymbolTableRecord& record) {
-  const std::wstring key = folded(record.name().View());
-  const auto [first, last] = m_byName.equal_range(key);
-  if (std::none_of(first, last, [&](const auto& entry) { return entry.second == record.objectId(); }))
-    m_byName.emplace(key, record.objectId());
+  auto& ids = m_byName[folded(record.name().View())];
+  if (std::find(ids.begin(), ids.end(), record.objectId()) == ids.end()) ids.push_back(record.objectId());
 }
 
 void AcDbSymbolTable::dxfOutFields(DxfRecordEditor& editor) const {
@@ -88,7 +84,7 @@ void AcDbSymbolTable::dxfOutFields(DxfRecordEditor& editor) const {
   editor.text(2, m_recordType);
   if (editor.subclassMarkers()) {
     editor.handle(5, handle());
-    editor.handle(330, AcDbHandle());
+    writeOwner(editor, AcDbHandle());
     editor.subclass("AcDbSymbolTable");
   }
   const auto alive = std::count_if(m_records.begin(), m_records.end(),
@@ -96,7 +92,7 @@ void AcDbSymbolTable::dxfOutFields(DxfRecordEditor& editor) const {
   editor.integer(70, alive);
   if (m_recordType == "DIMSTYLE") {
     editor.subclass("AcDbDimStyleTable");
-    if (editor.subclassMarkers()) editor.integer(71, 0);
+    if (editor.subclassMarkers() && rawRecord().isEmpty()) editor.integer(71, 0);
   }
 }
 

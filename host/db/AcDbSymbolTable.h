@@ -42,7 +42,8 @@ class AcDbSymbolTable : public AcDbObject {
 
  private:
   std::vector<AcDbObjectId> m_records;
-  std::unordered_multimap<std::wstring, AcDbObjectId> m_byName; // folded; may hold names of before
+  // By folded name, in the order of filing: damaged files have thousands under one. May hold names of before.
+  std::unordered_map<std::wstring, std::vector<AcDbObjectId>> m_byName;
   std::string m_recordType;
   DxfRecord m_endRecord;
 };
