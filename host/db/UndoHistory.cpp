@@ -68,12 +68,13 @@ void UndoHistory::clear() {
 
 void UndoHistory::recordBefore(AcDbObject& object) {
   if (m_depth == 0 || !m_seen.insert(object.objectId()).second) return;
-  m_current.changes.push_back({object.objectId(), object.record(), object.ownerId(), object.isErased()});
+  m_current.changes.push_back(
+      {object.objectId(), object.record(), object.ownerId(), object.isErased(), object.isImplicit()});
 }
 
 void UndoHistory::recordAppended(AcDbObject& object) {
   if (m_depth == 0 || !m_seen.insert(object.objectId()).second) return;
-  m_current.changes.push_back({object.objectId(), std::nullopt, object.ownerId(), true});
+  m_current.changes.push_back({object.objectId(), std::nullopt, object.ownerId(), true, false});
 }
 
 // Brings back the state that the step holds and returns the state that was there.
@@ -82,13 +83,15 @@ UndoHistory::Step UndoHistory::exchange(const Step& step) {
   opposite.changes.reserve(step.changes.size());
   for (const Change& change : step.changes) {
     AcDbObject& object = *change.id.object();
-    opposite.changes.push_back({change.id, object.record(), object.ownerId(), object.isErased()});
+    opposite.changes.push_back(
+        {change.id, object.record(), object.ownerId(), object.isErased(), object.isImplicit()});
   }
   // Erased flags first, so that names look up what is there afterwards.
   for (const Change& change : step.changes) {
     AcDbObject& object = *change.id.object();
     object.setErasedFlag(change.erased);
     object.setOwnerId(change.owner);
+    object.setImplicit(change.implicit);
   }
   const DxfDecodeContext context(m_database);
   for (const Change& change : step.changes) {

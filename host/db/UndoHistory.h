@@ -47,6 +47,7 @@ class UndoHistory {
     std::optional<DxfRecord> record; // none for an object that wasn't there
     AcDbObjectId owner;
     bool erased = false;
+    bool implicit = false;
   };
   struct Step {
     CString name;
