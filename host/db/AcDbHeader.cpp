@@ -13,7 +13,7 @@ std::vector<DxfTag> AcDbHeader::variable(std::string_view name) const {
     if (tag.code == 9) {
       if (take) break;
       take = dxf::trimBlanks(tag.value) == name;
-    } else if (take) {
+    } else if (take && tag.code != 999) { // comments may stand anywhere
       tags.push_back(tag);
     }
   }
@@ -49,6 +49,7 @@ std::string AcDbHeader::withVariable(std::string_view text, std::string_view nam
   const char* const textEnd = text.data() + text.size();
   const char* end = textEnd;
   const char* tagStart = text.data();
+  std::string comments;
   DxfTagReader reader(text);
   for (DxfTag tag; reader.next(tag);) {
     const char* tagEnd = tag.value.data() + tag.value.size();
@@ -57,12 +58,13 @@ std::string AcDbHeader::withVariable(std::string_view text, std::string_view nam
       end = tagStart;
       break;
     }
+    if (begin && tag.code == 999) comments += DxfRecordEditor::tag(999, tag.value);
     if (tag.code == 9 && dxf::trimBlanks(tag.value) == name) begin = tagEnd;
     tagStart = tagEnd;
   }
   if (!begin) return std::string(text) + DxfRecordEditor::tag(9, name) + newTags;
   std::string changed(text.data(), begin);
-  changed += newTags;
+  changed += newTags + comments;
   changed.append(end, textEnd);
   return changed;
 }

@@ -70,7 +70,7 @@ bool DxfTagReader::next(DxfTag& tag) {
   line(tag.value);
   const char* first = code.data();
   const char* last = first + code.size();
-  while (first < last && *first == ' ') ++first;
+  while (first < last && (*first == ' ' || *first == '\t')) ++first;
   return std::from_chars(first, last, tag.code).ec == std::errc{};
 }
 

@@ -36,7 +36,8 @@ CString dxf::decodeText(std::string_view value) {
   for (std::size_t i = 0; i < value.size();) {
     const std::string_view rest = value.substr(i);
     if (rest.size() >= 7 && (rest.starts_with("\\U+") || rest.starts_with("\\u+"))) {
-      if (const auto code = hexNumber(rest.substr(3, 4))) {
+      // A zero would end the text for everybody who takes it as one that ends in a zero.
+      if (const auto code = hexNumber(rest.substr(3, 4)); code && *code != 0) {
         flush(i);
         // Two escapes may spell one character above U+FFFF.
         const bool high =
@@ -55,7 +56,7 @@ CString dxf::decodeText(std::string_view value) {
         plain = i += 8;
         continue;
       }
-    } else if (rest.size() >= 2 && rest[0] == '^' && (rest[1] == ' ' || (rest[1] >= '@' && rest[1] <= '_'))) {
+    } else if (rest.size() >= 2 && rest[0] == '^' && (rest[1] == ' ' || (rest[1] >= 'A' && rest[1] <= '_'))) {
       flush(i);
       text += rest[1] == ' ' ? L'^' : static_cast<wchar_t>(rest[1] - '@');
       plain = i += 2;
