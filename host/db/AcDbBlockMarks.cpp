@@ -53,7 +53,7 @@ void AcDbBlockBegin::dxfInFields(DxfTags tags, const DxfDecodeContext& context) 
       m_basePoint.z = context.real(tag);
       break;
     case 70:
-      m_flags = static_cast<int>(context.integer(tag));
+      m_flags = static_cast<int>(context.integerIn(tag, -0x8000, 0xFFFF, 0));
       break;
     default:
       break;

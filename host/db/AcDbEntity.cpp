@@ -144,7 +144,8 @@ void AcDbEntity::dxfInFields(DxfTags tags, const DxfDecodeContext& context) {
       m_linetype = context.linetype(tag.value);
       break;
     case 62:
-      m_colorIndex = static_cast<short>(context.integer(tag, AcCmColor::kByLayer));
+      m_colorIndex = static_cast<short>(
+          context.integerIn(tag, AcCmColor::kByBlock, AcCmColor::kByLayer, AcCmColor::kByLayer));
       break;
     case 48:
       m_linetypeScale = context.real(tag, 1.0);
@@ -156,7 +157,8 @@ void AcDbEntity::dxfInFields(DxfTags tags, const DxfDecodeContext& context) {
       m_paperSpace = context.integer(tag) == 1;
       break;
     case 370:
-      m_lineWeight = static_cast<short>(context.integer(tag, AcDb::kLnWtByLayer));
+      m_lineWeight = static_cast<short>(
+          context.integerIn(tag, AcDb::kLnWtByLwDefault, AcDb::kLnWt211, AcDb::kLnWtByLayer));
       break;
     default:
       break;
@@ -171,6 +173,11 @@ void AcDbEntity::dxfOutFields(DxfRecordEditor& editor) const {
   editor.integer(67, m_paperSpace ? 1 : 0, 0);
   editor.name(8, layer(), rawRecord().isEmpty() ? L"" : L"0");
   editor.name(6, linetype(), L"ByLayer");
+  // A true colour beside the index is what other programs show, so it goes when the index changes.
+  if (editor.integerAt(62).value_or(AcCmColor::kByLayer) != m_colorIndex) {
+    editor.remove(420);
+    editor.remove(430);
+  }
   editor.integer(62, m_colorIndex, AcCmColor::kByLayer);
   if (!editor.subclassMarkers()) return; // older drawings know no more
   if (database() && database()->form().version >= "AC1015")

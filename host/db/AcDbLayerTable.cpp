@@ -5,7 +5,6 @@
 #include "host/db/DxfDecodeContext.h"
 #include "host/db/DxfRecordEditor.h"
 
-#include <algorithm>
 #include <cstdlib>
 
 ACRX_DXF_DEFINE_MEMBERS(AcDbLayerTableRecord, AcDbSymbolTableRecord, "LAYER")
@@ -78,9 +77,9 @@ void AcDbLayerTableRecord::dxfInFields(DxfTags tags, const DxfDecodeContext& con
   for (const DxfTag& tag : dxfOwnTags(tags)) {
     switch (tag.code) {
     case 62: {
-      const auto colour = context.integer(tag, 7);
+      const auto colour = context.integerIn(tag, -256, 256, 7);
       m_off = colour < 0;
-      m_colorIndex = static_cast<short>(std::clamp<long long>(std::llabs(colour), 0, 256));
+      m_colorIndex = static_cast<short>(std::llabs(colour));
       break;
     }
     case 6:
@@ -90,7 +89,8 @@ void AcDbLayerTableRecord::dxfInFields(DxfTags tags, const DxfDecodeContext& con
       m_plottable = context.integer(tag, 1) != 0;
       break;
     case 370:
-      m_lineWeight = static_cast<short>(context.integer(tag, AcDb::kLnWtByLwDefault));
+      m_lineWeight = static_cast<short>(
+          context.integerIn(tag, AcDb::kLnWtByLwDefault, AcDb::kLnWt211, AcDb::kLnWtByLwDefault));
       break;
     default:
       break;
@@ -100,6 +100,11 @@ void AcDbLayerTableRecord::dxfInFields(DxfTags tags, const DxfDecodeContext& con
 
 void AcDbLayerTableRecord::dxfOutFields(DxfRecordEditor& editor) const {
   dxfOutEntry(editor, "LAYER", "AcDbLayerTableRecord");
+  // A true colour beside the index is what other programs show, so it goes when the index changes.
+  if (std::llabs(editor.integerAt(62).value_or(7)) != m_colorIndex) {
+    editor.remove(420);
+    editor.remove(430);
+  }
   editor.integer(62, m_off ? -m_colorIndex : m_colorIndex);
   const auto* linetype = AcDbLinetypeTableRecord::cast(m_linetype.object());
   editor.name(6, linetype ? linetype->name() : CString(L"Continuous"));

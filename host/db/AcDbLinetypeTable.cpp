@@ -24,7 +24,7 @@ Acad::ErrorStatus AcDbLinetypeTableRecord::setDashes(std::vector<Dash> dashes) {
     if (!std::isfinite(dash.length)) return Acad::eInvalidInput;
   if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
   m_dashes = std::move(dashes);
-  m_complex = false;
+  m_dashesChanged = true;
   return Acad::eOk;
 }
 
@@ -32,18 +32,17 @@ void AcDbLinetypeTableRecord::dxfInFields(DxfTags tags, const DxfDecodeContext& 
   AcDbSymbolTableRecord::dxfInFields(tags, context);
   m_comments.Empty();
   m_dashes.clear();
-  m_complex = false;
+  m_dashesChanged = false;
   for (const DxfTag& tag : dxfOwnTags(tags)) {
     if (tag.code == 3) m_comments = dxf::decodeText(tag.value);
     if (tag.code == 49) m_dashes.push_back({context.real(tag)});
-    if (tag.code == 74 && context.integer(tag) != 0) m_complex = true;
   }
 }
 
 void AcDbLinetypeTableRecord::dxfOutFields(DxfRecordEditor& editor) const {
   dxfOutEntry(editor, "LTYPE", "AcDbLinetypeTableRecord");
   editor.text(3, m_comments);
-  if (m_complex) return;
+  if (!m_dashesChanged && !rawRecord().isEmpty()) return; // with shapes and texts, as it came
   editor.integer(72, 65);
   editor.integer(73, static_cast<long long>(m_dashes.size()));
   editor.real(40, patternLength());

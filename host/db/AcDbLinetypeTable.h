@@ -25,7 +25,7 @@ class AcDbLinetypeTableRecord : public AcDbSymbolTableRecord {
  private:
   CString m_comments;
   std::vector<Dash> m_dashes;
-  bool m_complex = false; // shapes or text in it: the pattern is kept as it came
+  bool m_dashesChanged = false; // until then the pattern, with shapes or texts in it, stays as it came
 };
 
 ZP_SYMBOL_TABLE(AcDbLinetype);

@@ -128,8 +128,16 @@ void AcDbObject::dxfOutHead(DxfRecordEditor& editor, std::string_view type, int 
   // Old drawings may go without handles: what was read without one stays without.
   if (newRecord || database()->form().subclassMarkers()) {
     editor.handle(handleCode, handle());
-    if (editor.subclassMarkers() && m_owner) editor.handle(330, m_owner->handle);
+    if (editor.subclassMarkers() && m_owner) writeOwner(editor, m_owner->handle);
   }
+}
+
+// Drawings before R2000 do without owners.
+void AcDbObject::writeOwner(DxfRecordEditor& editor, AcDbHandle owner) const {
+  if (!database() || database()->form().version >= "AC1015")
+    editor.handle(330, owner);
+  else
+    editor.handle(330, owner, owner);
 }
 
 AcDbObjectId AcDbObject::extensionDictionary() const {

@@ -98,6 +98,7 @@ class AcDbObject : public AcRxObject {
   void replaceRawRecord(DxfRecord record) { m_record = std::move(record); }
   // The owner's and handle's tags that every record begins with.
   void dxfOutHead(DxfRecordEditor& editor, std::string_view type, int handleCode = 5) const;
+  void writeOwner(DxfRecordEditor& editor, AcDbHandle owner) const;
 
  private:
   AcDbStub* m_stub = nullptr;

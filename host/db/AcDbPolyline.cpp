@@ -6,6 +6,7 @@
 #include "host/db/EntityMath.h"
 #include "host/ge/ArcMath.h"
 
+#include <climits>
 #include <cmath>
 
 ACRX_DXF_DEFINE_MEMBERS(AcDbPolyline, AcDbCurve, "LWPOLYLINE")
@@ -199,10 +200,10 @@ void AcDbPolyline::dxfInFields(DxfTags tags, const DxfDecodeContext& context) {
       if (vertex) vertex->bulge = context.real(tag);
       break;
     case 91:
-      if (vertex) vertex->id = static_cast<int>(context.integer(tag));
+      if (vertex) vertex->id = static_cast<int>(context.integerIn(tag, INT_MIN, INT_MAX, 0));
       break;
     case 70:
-      m_flags = static_cast<int>(context.integer(tag));
+      m_flags = static_cast<int>(context.integerIn(tag, -0x8000, 0xFFFF, 0));
       break;
     case 43:
       m_constantWidth = context.real(tag);

@@ -61,7 +61,7 @@ void AcDbSymbolTableRecord::dxfInFields(DxfTags tags, const DxfDecodeContext& co
       m_name = dxf::decodeText(dxf::trimBlanks(tag.value));
       named = true;
     } else if (tag.code == 70 && !flagged) {
-      m_flags = static_cast<int>(context.integer(tag));
+      m_flags = static_cast<int>(context.integerIn(tag, -0x8000, 0xFFFF, 0));
       flagged = true;
     }
   }

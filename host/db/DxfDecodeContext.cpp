@@ -44,7 +44,7 @@ AcDbObjectId DxfDecodeContext::layer(std::string_view raw) const {
   AcDbObjectId id = lookUp(m_database, "LAYER", name);
   if (id.isNull()) {
     id = define<AcDbLayerTableRecord>(m_database, "LAYER", name);
-    if (!id.isNull() && name != L"0") repaired({8, raw}, quoted(L"图层“%s”未定义，已补建", name));
+    if (!id.isNull() && name != L"0") definedMissing({8, raw}, id, quoted(L"图层“%s”未定义，已补建", name));
   }
   m_layers.insert_or_assign(std::string(raw), id);
   return id;
@@ -64,7 +64,12 @@ AcDbObjectId DxfDecodeContext::linetype(std::string_view raw) const {
 }
 
 AcDbObjectId DxfDecodeContext::textStyle(std::string_view raw) const {
-  return lookUp(m_database, "STYLE", dxf::decodeText(dxf::trimBlanks(raw)));
+  if (const auto found = m_textStyles.find(raw); found != m_textStyles.end() && !found->second.isErased())
+    return found->second;
+  const AcDbObjectId id = lookUp(m_database, "STYLE", dxf::decodeText(dxf::trimBlanks(raw)));
+  // One that is missing now may still be read.
+  if (!id.isNull()) m_textStyles.insert_or_assign(std::string(raw), id);
+  return id;
 }
 
 AcDbObjectId DxfDecodeContext::block(std::string_view raw) const {
@@ -98,6 +103,16 @@ long long DxfDecodeContext::integer(const DxfTag& tag, long long fallback) const
   if (const auto value = dxf::toInteger(tag.value)) return *value;
   CString what;
   what.Format(L"“%s”不是整数，按 %d 处理", dxf::decodeText(tag.value), fallback);
+  repaired(tag, what);
+  return fallback;
+}
+
+long long DxfDecodeContext::integerIn(const DxfTag& tag, long long low, long long high,
+                                      long long fallback) const {
+  const long long value = integer(tag, fallback);
+  if (value >= low && value <= high) return value;
+  CString what;
+  what.Format(L"%d 超出范围 %d 至 %d，按 %d 处理", value, low, high, fallback);
   repaired(tag, what);
   return fallback;
 }

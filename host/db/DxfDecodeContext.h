@@ -29,6 +29,8 @@ class DxfDecodeContext {
   // The number in a tag; one that is none (NaN, infinite, no digits) is reported and gives fallback.
   double real(const DxfTag& tag, double fallback = 0.0) const;
   long long integer(const DxfTag& tag, long long fallback = 0) const;
+  // The same for a field that holds only low to high; what lies outside is reported too.
+  long long integerIn(const DxfTag& tag, long long low, long long high, long long fallback) const;
 
   // Tells of a name that was used at a tag and had to be defined. The default writes to the message log.
   virtual void definedMissing(const DxfTag& tag, const AcDbObjectId& record, const CString& what) const;
@@ -47,4 +49,5 @@ class DxfDecodeContext {
   mutable Cache m_layers;
   mutable Cache m_linetypes;
   mutable Cache m_blocks;
+  mutable Cache m_textStyles;
 };

@@ -100,7 +100,10 @@ void DxfRecordEditor::put(int code, std::string value) {
     return;
   }
   // A field never lands inside a 102 group: those stand closed before or behind the cursor.
-  const std::size_t where = std::min(m_cursor, m_end);
+  std::size_t where = std::min(m_cursor, m_end);
+  // The owner stands behind the groups that follow the handle.
+  while (code == 330 && where < m_end && isGroupStart(m_items[where].code, m_items[where].value))
+    where = skipGroup(where);
   m_items.insert(m_items.begin() + static_cast<std::ptrdiff_t>(where), {code, tag(code, value), {}, {}});
   m_cursor = where + 1;
   ++m_end;
@@ -150,6 +153,11 @@ void DxfRecordEditor::real(int code, double value) {
 std::optional<double> DxfRecordEditor::realAt(int code) const {
   const std::size_t at = find(code);
   return at == npos || m_items[at].raw.empty() ? std::nullopt : dxf::toReal(m_items[at].value);
+}
+
+std::optional<long long> DxfRecordEditor::integerAt(int code) const {
+  const std::size_t at = find(code);
+  return at == npos || m_items[at].raw.empty() ? std::nullopt : dxf::toInteger(m_items[at].value);
 }
 
 void DxfRecordEditor::point(int code, const AcGePoint3d& value) {

@@ -43,6 +43,7 @@ class DxfRecordEditor {
 
   // The number that stands under the code now.
   std::optional<double> realAt(int code) const;
+  std::optional<long long> integerAt(int code) const;
 
   // Adds a marker behind everything of this scope, for classes whose records end with a second one.
   void closingMarker(std::string_view name);
