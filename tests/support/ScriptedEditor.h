@@ -45,9 +45,9 @@ class ScriptedEditor : public EdFrontEnd {
   }
   void echo(const CString&, const CString&, bool) override {}
   void print(const CString& text) override { printed += text; }
-  std::size_t messageBox(const EdMessageBox& box) override {
+  EdBoxResult messageBox(const EdMessageBox& box) override {
     printed += L"[" + box.caption + L"] " + box.text;
-    return box.defaultButton;
+    return {box.defaultButton, false};
   }
   void lineRefused(const EdRefusal& refusal) override { refused.push_back(refusal.reason); }
 

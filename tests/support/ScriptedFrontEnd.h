@@ -30,12 +30,12 @@ class ScriptedFrontEnd : public EdFrontEnd {
   }
   void echo(const CString& prompt, const CString&, bool) override { prompts.push_back(prompt); }
   void print(const CString& text) override { output += text; }
-  std::size_t messageBox(const EdMessageBox& box) override {
+  EdBoxResult messageBox(const EdMessageBox& box) override {
     boxes.push_back(box);
-    if (answers.empty()) return box.defaultButton;
+    if (answers.empty()) return {box.defaultButton, false};
     const auto answer = answers.front();
     answers.pop_front();
-    return answer;
+    return {answer, true};
   }
   void lineRefused(const EdRefusal& refusal) override { refusals.push_back(refusal); }
   void regenerate(AcApDocument&) override { ++regenerations; }
