@@ -9,6 +9,7 @@
 #include "host/ed/EdPrompts.h"
 #include "host/ed/EdSession.h"
 #include "host/ed/EntitySearch.h"
+#include "host/ed/SystemVariables.h"
 #include "host/ed/acutPrintf.h"
 
 #include <filesystem>
@@ -49,10 +50,15 @@ CString withExtension(const CString& path) {
 
 bool mayReplace(const CString& path) {
   auto* frontEnd = EdSession::instance().frontEnd();
-  if (!exists(path) || !frontEnd) return true;
-  if (frontEnd->messageBox({L"zpcad", L"文件“" + path + L"”已存在。要替换吗？", {L"是(Y)", L"否(N)"}, 1}) ==
-      0)
-    return true;
+  constexpr long replacesUnasked = 2; // as EXPERT has it
+  if (!exists(path) || !frontEnd || SystemVariables::integer(L"EXPERT") >= replacesUnasked) return true;
+  const auto box =
+      frontEnd->messageBox({L"zpcad", L"文件“" + path + L"”已存在。要替换吗？", {L"是(Y)", L"否(N)"}, 1});
+  if (box.button == 0) return true;
+  if (box.answered) {
+    acutPrintf(L"\n未保存。\n");
+    return false;
+  }
   EdSession::instance().refuse(L"文件“" + path + L"”已存在，未保存。", L"另一个文件名，或在下一行 answer 是");
   return false;
 }

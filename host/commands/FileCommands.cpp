@@ -33,7 +33,13 @@ bool mayLose(const CString& titles, const wchar_t* question, const wchar_t* comm
   auto* frontEnd = EdSession::instance().frontEnd();
   if (titles.IsEmpty()) return true;
   const CString text = L"图形“" + titles + L"”有未保存的修改。" + question;
-  if (frontEnd && frontEnd->messageBox({L"zpcad", text, {L"是(Y)", L"否(N)"}, 1}) == 0) return true;
+  const auto box =
+      frontEnd ? frontEnd->messageBox({L"zpcad", text, {L"是(Y)", L"否(N)"}, 1}) : EdBoxResult{1, false};
+  if (box.button == 0) return true;
+  if (box.answered) {
+    acutPrintf(L"\n未执行 %s。\n", command);
+    return false;
+  }
   EdSession::instance().refuse(CString(L"有未保存的修改，未执行 ") + command + L"。",
                                CString(L"先 SAVE；或在 ") + command + L" 的下一行写 answer 是");
   return false;

@@ -60,27 +60,29 @@ void ConsoleFrontEnd::echo(const CString& prompt, const CString& line, bool type
   write((prompt.IsEmpty() ? CString() : prompt + L" ") + line + L"\n");
 }
 
-std::size_t ConsoleFrontEnd::messageBox(const EdMessageBox& box) {
+EdBoxResult ConsoleFrontEnd::messageBox(const EdMessageBox& box) {
   freshLine();
   write(L"[" + box.caption + L"] " + box.text + L"\n");
   const CString& otherwise = box.buttons[box.defaultButton];
   // A person need not confirm what leaves no choice.
-  if (m_interactive && box.buttons.size() == 1) return box.defaultButton;
-  CString prompt;
-  for (const auto& button : box.buttons) prompt += (prompt.IsEmpty() ? L"" : L"/") + button;
-  prompt += L" <" + otherwise + L">:";
+  if (m_interactive && box.buttons.size() == 1) return {box.defaultButton, true};
+  CString choices;
+  for (const auto& button : box.buttons) choices += (choices.IsEmpty() ? L"" : L"/") + button;
+  const CString prompt = choices + L" <" + otherwise + L">:";
   auto& session = EdSession::instance();
   const auto isAnswer = [&](const CString& line) {
     return ed::ParseAnswer(line) || ed::FindButton(box.buttons, CString(line).Trim());
   };
   while (const auto line = session.input().readIf(prompt, isAnswer)) {
     const CString text = CString(line->text).Trim();
-    if (const auto button = ed::FindButton(box.buttons, ed::ParseAnswer(text).value_or(text))) return *button;
-    session.refuse(L"没有按钮“" + ed::Excerpt(*ed::ParseAnswer(text)) + L"”。", L"answer 加 " + prompt);
+    if (const auto button = ed::FindButton(box.buttons, ed::ParseAnswer(text).value_or(text)))
+      return {*button, true};
+    session.refuse(L"没有按钮“" + ed::Excerpt(*ed::ParseAnswer(text)) + L"”。",
+                   L"answer 加按钮名 " + choices);
   }
   freshLine();
   write(L"（未回答，取默认按钮“" + otherwise + L"”）\n");
-  return box.defaultButton;
+  return {box.defaultButton, false};
 }
 
 void ConsoleFrontEnd::lineRefused(const EdRefusal& refusal) {

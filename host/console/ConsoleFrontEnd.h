@@ -18,7 +18,7 @@ class ConsoleFrontEnd : public EdFrontEnd {
   void print(const CString& text) override;
   // Prints "[CAPTION] text". The next line answers when it is "answer BUTTON" or names a button; otherwise
   // the default button is taken and the line left where it is.
-  std::size_t messageBox(const EdMessageBox& box) override;
+  EdBoxResult messageBox(const EdMessageBox& box) override;
   void lineRefused(const EdRefusal& refusal) override;
   // Ends an open line and hands everything to the system.
   void finish();

@@ -17,6 +17,11 @@ struct EdMessageBox {
   std::size_t defaultButton = 0;
 };
 
+struct EdBoxResult {
+  std::size_t button = 0; // its index
+  bool answered = true;   // by the user; the default was taken otherwise
+};
+
 // A line that could not be obeyed.
 struct EdRefusal {
   CString source; // the script's name; empty for lines that the user typed
@@ -37,8 +42,7 @@ class EdFrontEnd {
   // Shows a line as the answer to its prompt. typed: it came from readLine.
   virtual void echo(const CString& prompt, const CString& line, bool typed) = 0;
   virtual void print(const CString& text) = 0;
-  // The index of the button taken.
-  virtual std::size_t messageBox(const EdMessageBox& box) = 0;
+  virtual EdBoxResult messageBox(const EdMessageBox& box) = 0;
   virtual void lineRefused(const EdRefusal& refusal) = 0;
 
   // The document's picture is to be drawn anew.

@@ -177,6 +177,7 @@ EdSession::Outcome EdSession::run(std::shared_ptr<const AcEdCommand> command) {
   if (document && outermost && !command->has(ACRX_CMD_USEPICKSET)) document->edit().pickFirst.clear();
 
   ChangeCounter changes(undoable ? document->database() : nullptr);
+  const bool wasModified = document && document->database()->isModified();
   if (undoable) document->database()->undo().beginCommand(command->globalName());
   m_initGet = {};
   m_running.push_back(std::make_unique<Running>(Running{command, inDocument ? document : nullptr, false}));
@@ -185,10 +186,12 @@ EdSession::Outcome EdSession::run(std::shared_ptr<const AcEdCommand> command) {
   m_running.pop_back();
 
   if (undoable) {
-    if (outcome == Outcome::done)
+    if (outcome == Outcome::done) {
       document->database()->undo().endCommand();
-    else
+    } else {
       document->database()->undo().cancelCommand();
+      document->database()->setModified(wasModified);
+    }
   }
   if (inDocument) {
     manager->unlockDocument(document);

@@ -6,8 +6,8 @@
 #include "host/ed/EntityHitTest.h"
 
 #include <algorithm>
+#include <iterator>
 #include <limits>
-#include <ranges>
 
 namespace ed {
 namespace {
@@ -44,8 +44,8 @@ std::vector<AcDbObjectId> AllEntities(const AcDbDatabase& database) {
   for (const auto& blockId : blocks->records()) {
     const auto* block = AcDbBlockTableRecord::cast(blockId.object());
     if (!block || block->isErased() || !block->isLayout()) continue;
-    std::ranges::copy_if(block->entities(), std::back_inserter(result),
-                         [](const AcDbObjectId& id) { return id.isValid() && !id.isErased(); });
+    std::copy_if(block->entities().begin(), block->entities().end(), std::back_inserter(result),
+                 [](const AcDbObjectId& id) { return id.isValid() && !id.isErased(); });
   }
   return result;
 }
@@ -87,9 +87,10 @@ AcDbObjectId EntityAt(const AcDbDatabase& database, const AcGePoint3d& point,
 AcDbObjectId LastEntity(const AcDbDatabase& database) {
   const auto* space = AcDbBlockTableRecord::cast(CurrentSpace(database).object());
   if (!space) return {};
-  for (const auto& id : space->entities() | std::views::reverse) {
-    const auto* entity = AcDbEntity::cast(id.object());
-    if (entity && IsDrawn(*entity)) return id;
+  const auto& entities = space->entities();
+  for (auto id = entities.rbegin(); id != entities.rend(); ++id) {
+    const auto* entity = AcDbEntity::cast(id->object());
+    if (entity && IsDrawn(*entity)) return *id;
   }
   return {};
 }

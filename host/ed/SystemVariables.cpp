@@ -60,7 +60,7 @@ constexpr Row kRows[] = {
     {L"DWGNAME", Type::text, Place::computed, 0, 0, 0, 0, L"", true, L"图形文件名"},
     {L"DWGPREFIX", Type::text, Place::computed, 0, 0, 0, 0, L"", true, L"图形所在文件夹"},
     {L"DWGTITLED", Type::integer, Place::computed, 0, 0, 0, 0, L"", true, L"图形已命名"},
-    {L"EXPERT", Type::integer, Place::session, 0, 0, 5, 0, L"", false, L"少问确认"},
+    {L"EXPERT", Type::integer, Place::session, 0, 0, 5, 0, L"", false, L"少问确认（2 起替换文件不问）"},
     {L"EXTMAX", Type::point, Place::header, 10, 0, 0, 0, L"", true, L"图形范围右上角"},
     {L"EXTMIN", Type::point, Place::header, 10, 0, 0, 0, L"", true, L"图形范围左下角"},
     {L"FILEDIA", Type::integer, Place::session, 0, 0, 1, 1, L"", false, L"使用文件对话框"},

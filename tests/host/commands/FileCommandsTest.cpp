@@ -41,6 +41,14 @@ TEST_F(FileCommands, AnotherFileIsReplacedOnlyWhenTheUserSaysSo) {
   EXPECT_NE("precious", read(file("old.dxf")));
 }
 
+TEST_F(FileCommands, AnExpertIsNotAsked) {
+  write(file("old.dxf"), "precious");
+  run(L"SETVAR", {L"EXPERT", L"2"});
+  run(L"SAVEAS", {file("old.dxf")});
+  EXPECT_TRUE(frontEnd.boxes.empty());
+  EXPECT_NE("precious", read(file("old.dxf")));
+}
+
 TEST_F(FileCommands, AFolderThatIsNotThereKeepsTheDrawingUnsaved) {
   run(L"POINT", {L"5,5"});
   run(L"SAVEAS", {file("none/plan.dxf")});

@@ -61,9 +61,9 @@ void alert() {
 }
 
 void askBox() {
-  const auto button =
+  const auto box =
       EdSession::instance().frontEnd()->messageBox({L"青岚提示", L"确定吗？", {L"是(Y)", L"否(N)"}, 1});
-  acutPrintf(L"\n[%d]\n", button);
+  acutPrintf(L"\n[%d]\n", box.button);
 }
 
 } // namespace

@@ -76,6 +76,7 @@ TEST_F(Session, EscapeRollsTheDrawingBack) {
   EXPECT_TRUE(frontEnd.said(L"*取消*"));
   EXPECT_TRUE(frontEnd.said(L"图形已恢复"));
   EXPECT_EQ(L"", database().undo().undoName());
+  EXPECT_FALSE(database().isModified());
 }
 
 TEST_F(Session, TheEndOfTheInputIsEscape) {
