@@ -8,19 +8,22 @@
 #include "host/afx/Paths.h"
 #include "tools/data/LayerScheme.h"
 #include "tools/data/PipeMaterials.h"
+#include "tools/data/Radiators.h"
 #include "tools/data/Table.h"
 
 namespace {
 
 // The catalogues load what stands there before they are filled, and the pipes keep sections that are not
 // theirs; the result shall depend on the tables alone.
-constexpr const char* kFiles[] = {"Data/PipeMaterial.idp", "Data/LayerManager/默认方案.idp"};
+constexpr const char* kFiles[] = {"Data/PipeMaterial.idp", "Data/LayerManager/默认方案.idp",
+                                  "HeatingData/Srq.idp"};
 
 void Write(const std::string& tables, const std::filesystem::path& output) {
   for (const char* file : kFiles) std::filesystem::remove(output / file);
   afx::SetInstallRoot(CString::FromUtf8(output.string()));
   WritePipeMaterials(tables);
   WriteLayerScheme(tables);
+  WriteRadiators(tables);
 }
 
 } // namespace

@@ -57,7 +57,7 @@ TEST_F(DataProgram, WritesTheShippedCataloguesByteForByte) {
     const auto relative = fs::relative(entry.path(), folder.Root() / "out");
     EXPECT_EQ(Bytes(entry.path()), Bytes(kShipped / relative)) << relative << ": run the target \"data\"";
   }
-  EXPECT_EQ(files, 2);
+  EXPECT_EQ(files, 3);
 }
 
 TEST_F(DataProgram, GivesTheSameWhateverStoodThereBefore) {
@@ -100,7 +100,17 @@ INSTANTIATE_TEST_SUITE_P(
         Fault{"pipes.tsv", "NEW\t新管材\tx\t0.2\tDN200\t200\t219\t6\t207\tx\tM", "no label for NEW"},
         Fault{"layers.tsv", "公用\t标注\t公用标注\t另一层\t3\tDOT\t1\t0.18\tx\tx", "identifier twice"},
         Fault{"layers.tsv", "公用\t标注\t另一标识\t暖通-公用-标注\t3\tDOT\t1\t0.18\tx\tx", "layer twice"},
-        Fault{"layers.tsv", "公用\t标注\t新\t新\t3.5\tDOT\t1\t0.18\tx\tx", "color: no whole number"}));
+        Fault{"layers.tsv", "公用\t标注\t新\t新\t3.5\tDOT\t1\t0.18\tx\tx", "color: no whole number"},
+        Fault{"radiators.tsv", "甲\t乙\t组\t2\t\t\t\t80\t\t\t\t\t\tx\tM\t", "unit: neither"},
+        Fault{"radiators.tsv", "甲\t乙\t片\t3\t\t\t\t80\t\t\t\t\t\tx\tM\t", "formula: not 0, 1 or 2"},
+        Fault{"radiators.tsv", "甲\t乙\t片\t0\t0.5\t\t\t\t\t\t\t\t\tx\tM\t", "b: no number"},
+        Fault{"radiators.tsv", "甲\t乙\t片\t2\t\t\t\t0\t\t\t\t\t\tx\tM\t", "q_w: not above 0"},
+        Fault{"radiators.tsv", "甲\t乙\t片\t1\t2.503\t0.293\t0.235\t\t8.6\t\t\t\t\tx\tM\t",
+              "k_pub: not what"},
+        Fault{"radiators.tsv", "甲\t乙\tm\t2\t\t\t1.8\t674.541\t5.9\t\t\t\t\tx\tM\t", "k_pub: not what"},
+        Fault{"radiators.tsv", "甲\t\t片\t2\t\t\t\t80\t\t\t\t\t\tx\tM\t", "no maker or no model"},
+        Fault{"radiators.tsv", "铸铁散热器(教材)\t四柱760型\t片\t2\t\t\t\t80\t\t\t\t\t\tx\tM\t",
+              "model twice"}));
 
 TEST_F(DataProgram, EndsWithoutATable) {
   fs::remove(folder.Root() / "tables/layers.tsv");
