@@ -4,34 +4,27 @@
 namespace commands {
 
 void Appload();
-void Arc();
 void Circle();
 void Clayer();
 void Close();
-void Copy();
 void Erase();
 void Help();
 void Id();
-void Insert();
 void Layer();
 void Line();
 void List();
-void Move();
 void New();
 void Open();
-void Pline();
 void Point();
 void Quit();
 void Recover();
 void Redo();
 void Regen();
-void Rotate();
 void Save();
 void SaveAs();
 void Script();
 void Select();
 void SetVar();
-void Text();
 void U();
 void Undo();
 

@@ -53,7 +53,7 @@ def run(program, case, folder):
     options = [line.format(**words) for line in read_text(case / "options.txt").splitlines() if line]
     typed = case / "stdin.txt"
     command = [str(Path(program).resolve()), "--console", "--data", str(data), *options]
-    if not typed.exists():
+    if (case / "script.scr").exists() and not typed.exists():
         command += ["--script", "script.scr"]
     if (case / "input.dxf").exists():
         command.append("input.dxf")
@@ -61,7 +61,7 @@ def run(program, case, folder):
     result = subprocess.run(command, cwd=folder, env=environment, stderr=subprocess.STDOUT,
                             input=typed.read_bytes() if typed.exists() else b"", stdout=subprocess.PIPE, check=False)
     output = result.stdout.decode("utf-8", "replace").replace(str(folder), "{dir}")
-    return result.returncode, output.replace(str(words["bin"]), "{bin}")
+    return result.returncode, output.replace(str(words["bin"]), "{bin}").replace(str(SOURCE), "{source}")
 
 
 def added_files(case, folder):
