@@ -2,7 +2,6 @@
 #include "host/ge/AcGePoint3d.h"
 #include "host/ge/AcGeMatrix3d.h"
 #include "host/ge/AcGePlane.h"
-#include "host/ge/AcGeScale3d.h"
 
 #include <gtest/gtest.h>
 
@@ -118,13 +117,6 @@ TEST(AcGePlane, MovesWithATransformation) {
                     AcGeMatrix3d::rotation(std::numbers::pi / 2, AcGeVector3d::kXAxis));
   EXPECT_EQ(plane.pointOnPlane(), AcGePoint3d(0, 0, 2));
   EXPECT_EQ(plane.normal(), -AcGeVector3d::kYAxis);
-}
-
-TEST(AcGeScale3d, ProportionalLooksAtMagnitudesOnly) {
-  EXPECT_TRUE(AcGeScale3d(2, -2, 2).isProportional());
-  EXPECT_FALSE(AcGeScale3d(2, 1, 2).isProportional());
-  EXPECT_TRUE(AcGeScale3d() == AcGeScale3d::kIdentity);
-  EXPECT_FALSE(AcGeScale3d(2.0) == AcGeScale3d(2, 2, 3));
 }
 
 } // namespace
