@@ -111,6 +111,15 @@ TEST_F(RadiatorCatalogue, KeepsATypeWithoutRadiators) {
   EXPECT_EQ(Names(), L"甲()");
 }
 
+TEST_F(RadiatorCatalogue, SharesItsTypesWithACopy) {
+  CZPRadiatorType* type = AddType(L"甲");
+  CZPRadiatorManager copy(catalogue);
+  EXPECT_EQ(copy.GetName(), L"全部散热器");
+  ASSERT_EQ(copy.m_arrTypes.GetSize(), 1);
+  EXPECT_EQ(copy.m_arrTypes[0], type);
+  copy.m_arrTypes.RemoveAll(); // or both would destroy the type
+}
+
 TEST_F(RadiatorCatalogue, RaisesAnErrorForAnIndexOutOfRange) {
   EXPECT_THROW(catalogue.m_arrTypes[0], CInvalidArgException);
 }

@@ -279,6 +279,19 @@ TEST_F(RadiatorFile, HoldsRadiatorsThatWereRenamedAlikeAsTheLastOfThem) {
   EXPECT_EQ(catalogue.GetInitialRadiator()->m_dA, 2);
 }
 
+TEST_F(RadiatorFile, IsDocumentedFieldByField) {
+  std::ifstream file(std::string(ZP_SOURCE_DIR) + "/docs/formats/srq.md");
+  const std::string document{std::istreambuf_iterator<char>(file), {}};
+  const char* const types[] = {"integer", "text", "double"}; // in the order of the field's variant
+  const CZPRadiator defaults;
+  for (const RadiatorField& field : kRadiatorFields) {
+    std::string row("| `");
+    row += CString(field.key).ToUtf8() + "` | " + types[field.member.index()] + " | ";
+    row += std::visit([&](auto member) { return FieldText(defaults.*member).ToUtf8(); }, field.member) + " |";
+    EXPECT_NE(document.find(row), std::string::npos) << row;
+  }
+}
+
 TEST_F(RadiatorFile, OfManyRadiatorsIsReadAndSaved) {
   CIDPEx root;
   root.SetValue(L"Version:1.0");
