@@ -9,6 +9,18 @@ CZPRadiator::CZPRadiator(const CZPRadiator& other) = default;
 CZPRadiator& CZPRadiator::operator=(const CZPRadiator& other) = default;
 CZPRadiator::~CZPRadiator() = default;
 
+CString CZPRadiator::GetUnit() const {
+  return m_strUnit;
+}
+
+void CZPRadiator::SetParent(CZPRadiatorObject* parent) {
+  m_pParent = parent;
+}
+
+CZPRadiatorObject* CZPRadiator::GetParent() const {
+  return m_pParent;
+}
+
 CString CZPRadiator::GetCalFormula() const {
   for (const radiators::Formula& formula : radiators::kFormulas)
     if (formula.code == m_nFormula) return formula.text;

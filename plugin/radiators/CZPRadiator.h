@@ -15,15 +15,15 @@ class ZP_EXPORT CZPRadiator : public CZPRadiatorObject {
   CZPRadiator& operator=(const CZPRadiator& other);
   ~CZPRadiator() override;
 
-  CString GetUnit() const { return m_strUnit; }
-  void SetParent(CZPRadiatorObject* parent) { m_pParent = parent; }
-  CZPRadiatorObject* GetParent() const { return m_pParent; } // not owned; null outside a catalogue
+  CString GetUnit() const;
+  void SetParent(CZPRadiatorObject* parent);
+  CZPRadiatorObject* GetParent() const; // not owned; null outside a catalogue
   // The text of the formula in use; "Error!" for a code that is none.
   CString GetCalFormula() const;
 
   // The calculation works on what was attached last, and attaching changes the catalogue's own object: attach
   // before each calculation.
-  void Attach(const SZPRadCalData& data) { m_calData = data; }
+  void Attach(const SZPRadCalData& data);
   // The unit output Qs, W per section or per metre; 0 for a formula code that is none. No input is checked,
   // here and below: the result is whatever the arithmetic gives, infinity and not-a-number included.
   double CalculatePjSrl() const;

@@ -54,6 +54,10 @@ double radiators::FixedOutput(const CZPRadiator& radiator, double /*temperatureD
   return radiator.m_dQs;
 }
 
+void CZPRadiator::Attach(const SZPRadCalData& data) {
+  m_calData = data;
+}
+
 double CZPRadiator::CalculatePjSrl() const {
   const double difference = (m_calData.dbTg + m_calData.dbTh) * 0.5 - m_calData.dbTn;
   for (const radiators::Formula& formula : radiators::kFormulas)
