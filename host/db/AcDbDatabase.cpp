@@ -293,6 +293,7 @@ Acad::ErrorStatus AcDbDatabase::setClayer(const AcDbObjectId& layer) {
   if (layer.isErased()) return Acad::eWasErased;
   const auto* record = AcDbLayerTableRecord::cast(layer.object());
   if (!record) return Acad::eNotThatKindOfClass;
+  if (record->isFrozen()) return Acad::eInvalidInput;
   if (clayer() == layer && m_header->has("$CLAYER")) return Acad::eOk;
   AcDbObjectPointer<AcDbHeader> header(headerId(), AcDb::kForWrite);
   if (!header) return header.openStatus();

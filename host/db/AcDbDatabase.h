@@ -92,7 +92,8 @@ class AcDbDatabase {
   const AcDbHeader& header() const { return *m_header; }
   AcDbObjectId headerId() const { return m_header->objectId(); }
   AcDbObjectId clayer() const;
-  // eNullObjectId, eNotThatKindOfClass, eWasErased for what is no layer of this drawing.
+  // eNullObjectId, eNotThatKindOfClass, eWasErased for what is no layer of this drawing, eInvalidInput for a
+  // frozen layer: nothing can be drawn on it.
   Acad::ErrorStatus setClayer(const AcDbObjectId& layer);
   // Loads one linetype (or "*" for all) from a linetype file, found as given or in the support folders.
   // eFileNotFound, eUndefinedLineType, eDuplicateRecordName, eFilerError for a damaged file (logged with

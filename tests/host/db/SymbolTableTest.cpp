@@ -139,10 +139,17 @@ TEST_F(SymbolTables, AnOffLayerIsFiledWithANegativeColourAndFlagsOfItsStates) {
   EXPECT_NE(text.find(" 62\n-3\n"), text.npos) << text;
 }
 
+TEST_F(SymbolTables, AFrozenLayerCannotBecomeCurrent) {
+  const auto id = addLayer(L"管线");
+  AcDbObjectPointer<AcDbLayerTableRecord>(id, AcDb::kForWrite)->setIsFrozen(true);
+  EXPECT_EQ(db.setClayer(id), Acad::eInvalidInput);
+  EXPECT_NE(db.clayer(), id);
+}
+
 TEST_F(SymbolTables, SetClayerRefusesWhatIsNoLayerOfTheDrawing) {
   AcDbDatabase other;
   EXPECT_EQ(db.setClayer(AcDbObjectId()), Acad::eNullObjectId);
   EXPECT_EQ(db.setClayer(other.clayer()), Acad::eNullObjectId);
   EXPECT_EQ(db.setClayer(db.modelSpaceId()), Acad::eNotThatKindOfClass);
-  EXPECT_EQ(db.clayer(), db.clayer());
+  EXPECT_EQ(at<AcDbLayerTableRecord>(db.clayer()).name(), L"0");
 }
