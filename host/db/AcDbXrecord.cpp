@@ -43,25 +43,9 @@ void AcDbXrecord::dxfInFields(DxfTags, const DxfDecodeContext&) {
 }
 
 void AcDbXrecord::dxfOutFields(DxfRecordEditor& editor) const {
-  if (!m_newData && !rawRecord().isEmpty()) return;
-  // The data may hold any code, so the record is put together anew around it, keeping what stands ahead of it
-  // (owner, reactors) and behind it (extended data).
-  std::string head;
-  std::string tail;
-  if (rawRecord().isEmpty()) {
-    head = DxfRecordEditor::tag(0, "XRECORD") + DxfRecordEditor::tag(5, handle().toHex()) +
-           DxfRecordEditor::tag(330, ownerId().handle().toHex()) + DxfRecordEditor::tag(100, "AcDbXrecord") +
-           DxfRecordEditor::tag(280, "1");
-  } else {
-    const auto tags = rawRecord().tags();
-    const auto data = dataOf(tags);
-    const char* dataBegin = data.empty() ? nullptr : data.front().value.data();
-    bool behind = false;
-    for (const DxfTag& tag : tags) {
-      if (tag.value.data() == dataBegin || tag.code >= 1000) behind = true;
-      if (!behind) head += DxfRecordEditor::tag(tag.code, tag.value);
-      if (tag.code >= 1000) tail += DxfRecordEditor::tag(tag.code, tag.value);
-    }
-  }
-  editor.replaceAll(head + m_newData.value_or(std::string()) + tail);
+  const bool isNew = rawRecord().isEmpty();
+  dxfOutHead(editor, "XRECORD");
+  editor.subclass("AcDbXrecord");
+  if (isNew) editor.integer(280, 1);
+  if (m_newData) editor.replaceData(*m_newData);
 }

@@ -293,9 +293,15 @@ void DxfRecordEditor::extendedData(std::string_view application, const std::stri
   if (!whole.empty()) m_items.push_back({1001, whole, {}, {}});
 }
 
-void DxfRecordEditor::replaceAll(std::string text) {
-  m_items.clear();
-  m_items.push_back({0, std::move(text), {}, {}});
+void DxfRecordEditor::replaceData(const std::string& newTags) {
+  std::size_t first = m_begin;
+  if (first < m_items.size() && m_items[first].code == 280) ++first;
+  std::size_t end = first;
+  while (end < m_items.size() && m_items[end].code < 1000) ++end;
+  const auto at = m_items.erase(m_items.begin() + static_cast<std::ptrdiff_t>(first),
+                                m_items.begin() + static_cast<std::ptrdiff_t>(end));
+  if (!newTags.empty()) m_items.insert(at, {-1, newTags, {}, {}});
+  m_cursor = m_end = first;
 }
 
 DxfRecord DxfRecordEditor::finish() {

@@ -57,8 +57,9 @@ class DxfRecordEditor {
   // Replaces the extended data of one application, appends it, or removes it when tags is empty.
   void extendedData(std::string_view application, const std::string& tags);
 
-  // Gives the record this text, for objects whose data are tags themselves.
-  void replaceAll(std::string text);
+  // Replaces everything from the scope's beginning, its 280 left out, up to the extended data: for objects
+  // whose data are tags of any code.
+  void replaceData(const std::string& newTags);
 
   DxfRecord finish();
 
