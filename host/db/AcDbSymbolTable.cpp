@@ -5,6 +5,8 @@
 #include "host/db/DxfRecordEditor.h"
 
 #include <algorithm>
+#include <iterator>
+#include <unordered_set>
 
 ACRX_NO_CONS_DEFINE_MEMBERS(AcDbSymbolTable, AcDbObject)
 
@@ -72,6 +74,14 @@ AcRxClass* AcDbSymbolTable::recordClass() const {
 void AcDbSymbolTable::file(AcDbSymbolTableRecord& record) {
   m_records.push_back(record.objectId());
   m_byName[folded(record.name().View())].push_back(record.objectId());
+}
+
+void AcDbSymbolTable::arrange(const std::vector<AcDbObjectId>& order) {
+  const std::unordered_set<AcDbObjectId> first(order.begin(), order.end());
+  std::vector<AcDbObjectId> records = order;
+  std::copy_if(m_records.begin(), m_records.end(), std::back_inserter(records),
+               [&](const AcDbObjectId& id) { return !first.contains(id); });
+  m_records = std::move(records);
 }
 
 void AcDbSymbolTable::nameChanged(AcDbSymbolTableRecord& record) {

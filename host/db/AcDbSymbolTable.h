@@ -32,6 +32,8 @@ class AcDbSymbolTable : public AcDbObject {
   virtual AcRxClass* recordClass() const;
   // Files a record that is in the database already.
   void file(AcDbSymbolTableRecord& record);
+  // The records that order names come first, in its order; the others stay behind them as they were.
+  void arrange(const std::vector<AcDbObjectId>& order);
   void nameChanged(AcDbSymbolTableRecord& record);
   // What closes the table in a file.
   const DxfRecord& endRecord() const { return m_endRecord; }

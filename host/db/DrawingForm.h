@@ -31,8 +31,8 @@ struct DrawingForm {
   // A record that belongs to nothing the host knows (a second ENDTAB, a table of no known kind), kept behind
   // what it stood behind.
   struct Stray {
-    enum Place { behindHead, behindRecord, behindEnd };
-    std::size_t section = 0; // behindHead: of which section
+    enum Place { behindHead, behindRecord, behindEnd, behindTail };
+    std::size_t section = 0; // behindHead, behindTail: of which section; -1: ahead of the first
     AcDbObjectId object;     // behindRecord: of which object; behindEnd: of which table
     Place place = behindHead;
     DxfRecord text;

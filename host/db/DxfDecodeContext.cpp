@@ -57,7 +57,11 @@ AcDbObjectId DxfDecodeContext::linetype(std::string_view raw) const {
   AcDbObjectId id = lookUp(m_database, "LTYPE", name);
   if (id.isNull()) {
     id = define<AcDbLinetypeTableRecord>(m_database, "LTYPE", name);
-    if (!id.isNull()) definedMissing({6, raw}, id, quoted(L"线型“%s”未定义，已补建为实线", name));
+    // Old drawings have no entry for the linetypes that every drawing has.
+    const bool isStandard = name.CompareNoCase(L"Continuous") == 0 || name.CompareNoCase(L"ByLayer") == 0 ||
+                            name.CompareNoCase(L"ByBlock") == 0;
+    if (!id.isNull() && !isStandard)
+      definedMissing({6, raw}, id, quoted(L"线型“%s”未定义，已补建为实线", name));
   }
   m_linetypes.insert_or_assign(std::string(raw), id);
   return id;

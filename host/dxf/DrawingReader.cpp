@@ -2,6 +2,7 @@
 
 #include "host/db/AcDbBlockReference.h"
 #include "host/db/AcDbBlockTable.h"
+#include "host/db/AcDbSymbolTable.h"
 #include "host/dxf/BlockCycles.h"
 #include "host/dxf/RecordValues.h"
 
@@ -71,7 +72,8 @@ CString dxf::DrawingReader::read() {
   }
   if (m_error.IsEmpty() && form.sections.empty()) m_error = L"不是 DXF 图形文件：没有任何段（SECTION）";
   if (m_error.IsEmpty() && !eof) {
-    const bool complete = !form.sections.back().tail.isEmpty();
+    dropHalfEnd();
+    const bool complete = !form.sections.back().tail.isEmpty() && endsLikeAWholeFile();
     if (!complete && !m_options.recover)
       m_error.Format(L"第 %d 行：文件在段“%s”中意外结束", m_scanner.lineOf(m_text->data() + m_text->size()),
                      CString::FromUtf8(form.sections.back().name));
@@ -82,19 +84,32 @@ CString dxf::DrawingReader::read() {
   return m_error;
 }
 
-// What stands between sections is kept with what closes the section before it.
-void dxf::DrawingReader::keepStrayRecord() {
-  DrawingForm& form = m_database.form();
-  const DxfTag& tag = m_scanner.tags().front();
-  m_context.repaired(tag, quoted(L"记录“%s”不在任何段内，原样保留", shown(tag.value)));
-  reserveHandleOf(m_scanner.tags());
-  DxfRecord& before = form.sections.empty() ? form.preamble : form.sections.back().tail;
-  const std::string_view stray = m_scanner.recordText();
-  const char* begin = before.isEmpty() ? stray.data() : before.text().data();
-  before = DxfRecord::partOf(m_text, {begin, static_cast<std::size_t>(stray.data() + stray.size() - begin)});
+// Without the end mark, a file may be cut off between two sections. Then the sections that every file has are
+// missing, or the beginning of one stands at the end.
+bool dxf::DrawingReader::endsLikeAWholeFile() const {
+  const DrawingForm& form = m_database.form();
+  const auto has = [&](const char* name) { return m_sectionCounts.contains(name); };
+  if (!has("ENTITIES") || (form.subclassMarkers() && !has("OBJECTS"))) return false;
+  const bool strayLast = !form.strays.empty() && form.strays.back().place == DrawingForm::Stray::behindTail &&
+                         form.strays.back().section == form.sections.size() - 1;
+  return !strayLast || !std::string_view("SECTION").starts_with(form.strays.back().text.type());
 }
 
-// The same within a section, where objects stand between.
+// "E" or "EO" at the end of a file is what is left of its end mark.
+void dxf::DrawingReader::dropHalfEnd() {
+  auto& strays = m_database.form().strays;
+  if (strays.empty() || strays.back().place != DrawingForm::Stray::behindTail) return;
+  const std::string_view type = strays.back().text.type();
+  if (!type.empty() && std::string_view("EOF").starts_with(type)) strays.pop_back();
+}
+
+void dxf::DrawingReader::keepStrayRecord() {
+  const DxfTag& tag = m_scanner.tags().front();
+  m_context.repaired(tag, quoted(L"记录“%s”不在任何段内，原样保留", shown(tag.value)));
+  keepBehind(DrawingForm::Stray::behindTail);
+}
+
+// What belongs to nothing is kept behind what it stood behind.
 void dxf::DrawingReader::keepBehind(DrawingForm::Stray::Place place, const AcDbObjectId& object) {
   DrawingForm& form = m_database.form();
   reserveHandleOf(m_scanner.tags());
@@ -167,7 +182,10 @@ void dxf::DrawingReader::readHeader(DrawingForm::Section& section) {
     if (const auto seed = m_database.header().text("$HANDSEED"))
       m_database.reserveHandle(AcDbHandle(AcDbHandle::fromHex(seed->ToUtf8()).value() - 1));
   }
-  nextRecord();
+  while (nextRecord() && !atSectionEnd()) {
+    m_context.repaired(m_scanner.tags().front(), L"文件头中有不属于它的记录，原样保留");
+    keepBehind(DrawingForm::Stray::behindHead);
+  }
 }
 
 void dxf::DrawingReader::readClasses() {
@@ -177,11 +195,12 @@ void dxf::DrawingReader::readClasses() {
 void dxf::DrawingReader::readWhole(DrawingForm::Section& section) {
   const char* begin = m_scanner.recordText().data() + m_scanner.recordText().size();
   const char* end = begin;
-  std::string mended; // instead, as soon as a number had to be mended
+  std::string mended; // instead, as soon as a number had to be mended or a piece was passed over
   bool isMended = false;
   while (nextRecord() && !atSectionEnd()) {
     reserveHandleOf(m_scanner.tags());
-    if (!m_scanner.badReals().empty() && !isMended) {
+    const bool follows = m_scanner.recordText().data() == end && m_scanner.badReals().empty();
+    if (!follows && !isMended) {
       mended.assign(begin, end);
       isMended = true;
     }
@@ -195,6 +214,7 @@ void dxf::DrawingReader::readWhole(DrawingForm::Section& section) {
 }
 
 void dxf::DrawingReader::finish() {
+  for (const auto& [table, order] : m_entryOrder) table->arrange(order);
   m_database.endLoading();
   if (m_withoutHandle > 0) {
     CString what;

@@ -31,6 +31,8 @@ class DrawingReader {
   void decodeInto(AcDbObject& object);
 
   void readSection();
+  bool endsLikeAWholeFile() const;
+  void dropHalfEnd();
   void keepStrayRecord();
   void keepBehind(DrawingForm::Stray::Place place, const AcDbObjectId& object = {});
   void reserveHandleOf(DxfTags tags);
@@ -71,6 +73,8 @@ class DrawingReader {
   std::map<std::string, int> m_sectionCounts;
   std::unordered_map<std::string_view, const AcRxClass*> m_classes; // by record type, null for unknown ones
   std::vector<const AcDbBlockReference*> m_insertions;
+  // Entries in the order of the file: some were known by name before their record was met.
+  std::map<AcDbSymbolTable*, std::vector<AcDbObjectId>> m_entryOrder;
   AcDbSymbolTable* m_strayTable = nullptr; // whose entries stood outside a table just now
   std::size_t m_withoutHandle = 0;
   std::size_t m_recordCount = 0;

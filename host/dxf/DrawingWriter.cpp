@@ -129,13 +129,15 @@ std::string dxf::DrawingWriter::write() {
   const auto list = sections();
   std::set<std::string> written;
   put(m_form.preamble.text());
+  putStrays(DrawingForm::Stray::behindTail, nullptr, static_cast<std::size_t>(-1));
   std::vector<std::string> heads; // made here, alive until they are flushed
   heads.reserve(list.size());
   for (std::size_t i = 0; i < list.size(); ++i) {
     const DrawingForm::Section& section = list[i];
     if (section.head.isEmpty()) put(heads.emplace_back(sectionHead(section.name)));
     put(section.head.text());
-    putStrays(DrawingForm::Stray::behindHead, nullptr, i);
+    // The variables of a header stand in its own record.
+    if (section.name != "HEADER") putStrays(DrawingForm::Stray::behindHead, nullptr, i);
     // Entities go to the section that they came from, the new ones to the last; what a second section of
     // another name held was taken into the first.
     if (section.name == "ENTITIES") {
@@ -145,9 +147,11 @@ std::string dxf::DrawingWriter::write() {
     } else if (written.insert(section.name).second) {
       writeSection(section.name);
     }
+    if (section.name == "HEADER") putStrays(DrawingForm::Stray::behindHead, nullptr, i);
     put(section.body.text());
     static const std::string endSection = DxfRecordEditor::tag(0, "ENDSEC");
     put(section.tail.isEmpty() ? std::string_view(endSection) : section.tail.text());
+    putStrays(DrawingForm::Stray::behindTail, nullptr, i);
   }
   static const std::string eof = DxfRecordEditor::tag(0, "EOF");
   put(m_form.eof.isEmpty() ? std::string_view(eof) : m_form.eof.text());

@@ -106,6 +106,7 @@ AcDbObjectId dxf::DrawingReader::readTableEntry(AcDbSymbolTable& table) {
   // In a dimension style 5 is the name of an arrow block.
   adopt(*record, table.recordType() == "DIMSTYLE" ? 105 : 5);
   if (isNew) table.file(*record);
+  m_entryOrder[&table].push_back(record->objectId());
   const bool anonymous = !name.IsEmpty() && name[0] == L'*';
   if (!anonymous && table.recordType() == "LAYER" && !AcDbSymbolTableRecord::isValidSymbolName(name))
     m_context.repaired(m_scanner.tags().front(),
