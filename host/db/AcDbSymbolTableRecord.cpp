@@ -6,6 +6,9 @@
 #include "host/db/DxfRecordEditor.h"
 #include "host/db/DxfText.h"
 
+#include <algorithm>
+#include <iterator>
+
 ACRX_DXF_DEFINE_MEMBERS(AcDbSymbolTableRecord, AcDbObject, "")
 
 Acad::ErrorStatus AcDbSymbolTableRecord::getName(CString& out) const {
@@ -14,6 +17,27 @@ Acad::ErrorStatus AcDbSymbolTableRecord::getName(CString& out) const {
   return Acad::eOk;
 }
 
+namespace {
+
+// Names that every drawing must have, and that others count on.
+bool isFixedName(std::string_view table, const CString& name) {
+  struct Fixed {
+    std::string_view table;
+    const wchar_t* name;
+  };
+  static constexpr Fixed fixed[] = {{"LAYER", L"0"},
+                                    {"LTYPE", L"ByLayer"},
+                                    {"LTYPE", L"ByBlock"},
+                                    {"LTYPE", L"Continuous"},
+                                    {"BLOCK_RECORD", L"*Model_Space"},
+                                    {"BLOCK_RECORD", L"*Paper_Space"}};
+  return std::any_of(std::begin(fixed), std::end(fixed), [&](const Fixed& entry) {
+    return entry.table == table && name.CompareNoCase(entry.name) == 0;
+  });
+}
+
+} // namespace
+
 Acad::ErrorStatus AcDbSymbolTableRecord::setName(const wchar_t* newName) {
   const CString wanted = newName;
   if (!isWriteEnabled()) return Acad::eNotOpenForWrite;
@@ -21,6 +45,7 @@ Acad::ErrorStatus AcDbSymbolTableRecord::setName(const wchar_t* newName) {
   if (!isValidSymbolName(wanted)) return Acad::eInvalidName;
   auto* table = AcDbSymbolTable::cast(ownerId().object());
   if (table) {
+    if (isFixedName(table->recordType(), m_name)) return Acad::eInvalidName;
     AcDbObjectId other;
     if (table->getAt(wanted, other) == Acad::eOk && other != objectId()) return Acad::eDuplicateRecordName;
   }

@@ -10,7 +10,8 @@ class AcDbSymbolTableRecord : public AcDbObject {
   // The name without copying, for the host's own modules.
   const CString& name() const { return m_name; }
   Acad::ErrorStatus getName(CString& name) const;
-  // eInvalidName for an empty or forbidden name (see isValidSymbolName), eDuplicateRecordName when another
+  // eInvalidName for an empty or forbidden name (see isValidSymbolName) and for a record whose name every
+  // drawing must have (layer 0, the standard linetypes, the two spaces), eDuplicateRecordName when another
   // record of the table has it. The old name stays then.
   Acad::ErrorStatus setName(const wchar_t* name);
   // The flags of group 70.

@@ -139,6 +139,12 @@ TEST_F(SymbolTables, AnOffLayerIsFiledWithANegativeColourAndFlagsOfItsStates) {
   EXPECT_NE(text.find(" 62\n-3\n"), text.npos) << text;
 }
 
+TEST_F(SymbolTables, WhatEveryDrawingMustHaveKeepsItsName) {
+  AcDbObjectPointer<AcDbLayerTableRecord> zero(db.clayer(), AcDb::kForWrite);
+  EXPECT_EQ(zero->setName(L"零"), Acad::eInvalidName);
+  EXPECT_EQ(zero->name(), L"0");
+}
+
 TEST_F(SymbolTables, AFrozenLayerCannotBecomeCurrent) {
   const auto id = addLayer(L"管线");
   AcDbObjectPointer<AcDbLayerTableRecord>(id, AcDb::kForWrite)->setIsFrozen(true);
