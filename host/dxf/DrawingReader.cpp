@@ -74,11 +74,14 @@ CString dxf::DrawingReader::read() {
   if (m_error.IsEmpty() && !eof) {
     dropHalfEnd();
     const bool complete = !form.sections.back().tail.isEmpty() && endsLikeAWholeFile();
+    CString cut;
+    cut.Format(L"文件在段“%s”中意外结束", CString::FromUtf8(form.sections.back().name));
+    const char* end = m_text->data() + m_text->size();
     if (!complete && !m_options.recover)
-      m_error.Format(L"第 %d 行：文件在段“%s”中意外结束", m_scanner.lineOf(m_text->data() + m_text->size()),
-                     CString::FromUtf8(form.sections.back().name));
-    else
-      m_context.repairedAt(nullptr, 0, L"文件末尾缺少 EOF，保存时补上");
+      m_error.Format(L"第 %d 行：%s", m_scanner.lineOf(end), cut);
+    else if (!complete)
+      m_context.repairedAt(end, -1, cut + L"，其后的内容已缺失");
+    m_context.repairedAt(nullptr, 0, L"文件末尾缺少 EOF，保存时补上");
   }
   if (m_error.IsEmpty()) finish();
   return m_error;
