@@ -12,6 +12,8 @@ std::size_t SequenceLength(unsigned char lead) {
   return lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
 }
 
+} // namespace
+
 std::size_t FirstBadByte(std::string_view text) {
   std::size_t at = 0;
   while (at < text.size()) {
@@ -21,8 +23,6 @@ std::size_t FirstBadByte(std::string_view text) {
   }
   return at;
 }
-
-} // namespace
 
 TextFault FindTextFault(std::string_view text) {
   const std::size_t bad = FirstBadByte(text);

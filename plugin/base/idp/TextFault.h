@@ -14,4 +14,7 @@ struct TextFault {
 
 TextFault FindTextFault(std::string_view text);
 
+// The first byte that is no part of a well-formed character; the size of the text when all are.
+std::size_t FirstBadByte(std::string_view text);
+
 } // namespace idp
