@@ -34,11 +34,12 @@ CurveFrame CurveFrame::Through(const AcGePoint3d& start, const AcGeVector3d& dir
   const AcGeVector3d aside = other - start - direction * (other - start).dotProduct(direction);
   const double size = aside.length();
   if (!(size > 0.0)) return Along(start, direction, ArbitraryAxis(direction).xAxis);
-  // Made perpendicular a second time: the first difference may have lost most of its digits.
+  // Made perpendicular a second time: the first difference may have lost its digits. What then has lost its
+  // length as well was rounding from the start.
   AcGeVector3d y = aside / size;
   y -= direction * y.dotProduct(direction);
   const double rest = y.length();
-  return Along(start, direction, rest > 0.0 ? y / rest : ArbitraryAxis(direction).xAxis);
+  return Along(start, direction, rest > 0.5 ? y / rest : ArbitraryAxis(direction).xAxis);
 }
 
 AcGePoint2d CurveFrame::ToPlane(const AcGePoint3d& p) const {
