@@ -9,6 +9,7 @@
 #include "host/db/DxfDecodeContext.h"
 #include "host/db/DxfRecordEditor.h"
 #include "host/db/DxfText.h"
+#include "host/db/NameReferences.h"
 
 #include <algorithm>
 
@@ -309,6 +310,20 @@ void AcDbDatabase::addReactor(AcDbDatabaseReactor* reactor) {
 
 void AcDbDatabase::removeReactor(AcDbDatabaseReactor* reactor) {
   std::erase(m_reactors, reactor);
+}
+
+void AcDbDatabase::beforeRename(const AcDbObjectId& record) {
+  for (const AcDbStub& stub : m_stubs) {
+    if (!namesRecord(*stub.object, record)) continue;
+    m_undo->recordBefore(*stub.object);
+    stub.object->invalidateRecord();
+  }
+}
+
+void AcDbDatabase::afterRename(const AcDbObjectId& record) {
+  if (m_loading) return; // names in records are those of the file
+  for (const AcDbStub& stub : m_stubs)
+    if (namesRecord(*stub.object, record)) stub.object->invalidateRecord();
 }
 
 void AcDbDatabase::beforeChange(AcDbObject& object) {

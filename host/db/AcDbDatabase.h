@@ -111,9 +111,11 @@ class AcDbDatabase {
   // Changed since it was read or since setModified(false).
   bool isModified() const { return m_modified; }
   void setModified(bool modified) { m_modified = modified; }
-  // Since reading a table record got another name, so that records which refer to it by name need a look.
-  bool hasRenames() const { return m_renamed; }
-  void setRenamed() { m_renamed = true; }
+  // Told by a table record that is about to get another name: what names it takes the new name into its own
+  // record, and undo covers that too.
+  void beforeRename(const AcDbObjectId& record);
+  // Told when undo has brought an old name back, which undo itself brings back where it was named then.
+  void afterRename(const AcDbObjectId& record);
 
   void addReactor(AcDbDatabaseReactor* reactor);
   void removeReactor(AcDbDatabaseReactor* reactor);
@@ -153,7 +155,6 @@ class AcDbDatabase {
   DrawingForm m_form;
   std::vector<AcDbDatabaseReactor*> m_reactors;
   bool m_modified = false;
-  bool m_renamed = false;
   bool m_loading = false;
 };
 

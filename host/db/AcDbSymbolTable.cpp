@@ -76,6 +76,12 @@ void AcDbSymbolTable::file(AcDbSymbolTableRecord& record) {
   m_byName[folded(record.name().View())].push_back(record.objectId());
 }
 
+const std::vector<AcDbObjectId>& AcDbSymbolTable::filedUnder(const CString& name) const {
+  static const std::vector<AcDbObjectId> none;
+  const auto entry = m_byName.find(folded(name.View()));
+  return entry == m_byName.end() ? none : entry->second;
+}
+
 void AcDbSymbolTable::arrange(const std::vector<AcDbObjectId>& order) {
   const std::unordered_set<AcDbObjectId> first(order.begin(), order.end());
   std::vector<AcDbObjectId> records = order;

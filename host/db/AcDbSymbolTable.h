@@ -32,6 +32,9 @@ class AcDbSymbolTable : public AcDbObject {
   virtual AcRxClass* recordClass() const;
   // Files a record that is in the database already.
   void file(AcDbSymbolTableRecord& record);
+  // All that were ever filed under a name; damaged files have several. Stays where it is while the table
+  // does.
+  const std::vector<AcDbObjectId>& filedUnder(const CString& name) const;
   // The records that order names come first, in its order; the others stay behind them as they were.
   void arrange(const std::vector<AcDbObjectId>& order);
   void nameChanged(AcDbSymbolTableRecord& record);

@@ -51,10 +51,10 @@ Acad::ErrorStatus AcDbSymbolTableRecord::setName(const wchar_t* newName) {
   }
   const bool isCurrentLayer = database() && table && database()->clayer() == objectId();
   if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  if (table) database()->beforeRename(objectId());
   m_name = wanted;
   if (table) {
     table->nameChanged(*this);
-    database()->setRenamed();
     if (isCurrentLayer && database()->header().has("$CLAYER")) {
       AcDbObjectPointer<AcDbHeader> header(database()->headerId(), AcDb::kForWrite);
       if (header) header->setVariable("$CLAYER", DxfRecordEditor::tag(8, dxf::encodeText(m_name)));
@@ -92,7 +92,10 @@ void AcDbSymbolTableRecord::dxfInFields(DxfTags tags, const DxfDecodeContext& co
   }
   // Undo may bring an old name back.
   auto* table = AcDbSymbolTable::cast(ownerId().object());
-  if (table && !before.IsEmpty() && before != m_name) table->nameChanged(*this);
+  if (table && !before.IsEmpty() && before != m_name) {
+    table->nameChanged(*this);
+    database()->afterRename(objectId());
+  }
 }
 
 void AcDbSymbolTableRecord::dxfOutFields(DxfRecordEditor& editor) const {

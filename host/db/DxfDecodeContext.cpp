@@ -11,7 +11,8 @@ namespace {
 
 AcDbObjectId lookUp(AcDbDatabase& database, std::string_view table, const CString& name) {
   AcDbObjectId id;
-  if (const AcDbSymbolTable* symbols = database.tableOf(table)) symbols->getAt(name, id);
+  // An erased object, decoded again by undo, may name a record that is erased like itself.
+  if (const AcDbSymbolTable* symbols = database.tableOf(table)) symbols->getAt(name, id, true);
   return id;
 }
 

@@ -1,6 +1,7 @@
 #include "host/db/UndoHistory.h"
 
 #include "host/db/AcDbDatabase.h"
+#include "host/db/AcDbLayerTable.h"
 #include "host/db/DxfDecodeContext.h"
 
 void UndoHistory::beginCommand(const CString& name) {
@@ -15,7 +16,8 @@ void UndoHistory::endCommand() {
   // Opened for write but not changed is no change.
   std::erase_if(m_current.changes, [](const Change& change) {
     const AcDbObject* object = change.id.object();
-    return object->isErased() == change.erased && object->ownerId() == change.owner && change.record &&
+    return object->isErased() == change.erased && object->isImplicit() == change.implicit &&
+           object->ownerId() == change.owner && change.record &&
            object->record().text() == change.record->text();
   });
   m_seen.clear();
@@ -93,12 +95,19 @@ UndoHistory::Step UndoHistory::exchange(const Step& step) {
     object.setOwnerId(change.owner);
     object.setImplicit(change.implicit);
   }
+  // What others name comes first: linetypes and styles, then layers, then all that stands on them.
   const DxfDecodeContext context(m_database);
-  for (const Change& change : step.changes) {
-    AcDbObject& object = *change.id.object();
-    if (change.record) object.setRecord(*change.record, context);
-    m_database.afterChange(object);
+  const auto rankOf = [](const AcDbObject& object) {
+    if (AcDbLayerTableRecord::cast(&object)) return 1;
+    return AcDbSymbolTableRecord::cast(&object) ? 0 : 2;
+  };
+  for (const int rank : {0, 1, 2}) {
+    for (const Change& change : step.changes) {
+      AcDbObject& object = *change.id.object();
+      if (change.record && rankOf(object) == rank) object.setRecord(*change.record, context);
+    }
   }
+  for (const Change& change : step.changes) m_database.afterChange(*change.id.object());
   opposite.bytes = bytesOf(opposite);
   return opposite;
 }
