@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/db/AcDbDatabase.h"
+#include "host/db/AcDbSymbolTable.h"
 #include "host/dxf/ReadContext.h"
 
 #include <map>
@@ -10,8 +11,6 @@
 class AcDbBlockReference;
 class AcDbBlockTableRecord;
 class AcDbEntity;
-class AcDbSymbolTable;
-class AcDbSymbolTableRecord;
 
 namespace dxf {
 
@@ -51,6 +50,12 @@ class DrawingReader {
 
   AcDbEntity* readEntity(const AcDbObjectId& owner);
   void readEntityInto(AcDbBlockTableRecord& block);
+  // The first of a table's records under a name that satisfies a condition which none satisfies again once it
+  // doesn't; null when there is none. cursors remembers how far it looked.
+  using Cursors = std::unordered_map<const std::vector<AcDbObjectId>*, std::size_t>;
+  template <typename Condition>
+  static AcDbSymbolTableRecord* firstNamed(const AcDbSymbolTable& table, const CString& name,
+                                           Cursors& cursors, Condition condition);
   AcDbBlockTableRecord& blockNamed(const CString& name);
   AcDbBlockTableRecord& spaceNamed(const wchar_t* name);
   const AcRxClass* classOfRecord();
@@ -73,11 +78,24 @@ class DrawingReader {
   std::map<std::string, int> m_sectionCounts;
   std::unordered_map<std::string_view, const AcRxClass*> m_classes; // by record type, null for unknown ones
   std::vector<const AcDbBlockReference*> m_insertions;
+  Cursors m_begunBlocks;
+  Cursors m_readEntries;
   // Entries in the order of the file: some were known by name before their record was met.
   std::map<AcDbSymbolTable*, std::vector<AcDbObjectId>> m_entryOrder;
   AcDbSymbolTable* m_strayTable = nullptr; // whose entries stood outside a table just now
   std::size_t m_withoutHandle = 0;
   std::size_t m_recordCount = 0;
 };
+
+template <typename Condition>
+AcDbSymbolTableRecord* DrawingReader::firstNamed(const AcDbSymbolTable& table, const CString& name,
+                                                 Cursors& cursors, Condition condition) {
+  const auto& ids = table.filedUnder(name);
+  std::size_t& next = cursors[&ids];
+  for (; next < ids.size(); ++next)
+    if (auto* record = static_cast<AcDbSymbolTableRecord*>(ids[next].object()); condition(*record))
+      return record;
+  return nullptr;
+}
 
 } // namespace dxf

@@ -3,7 +3,6 @@
 #include "host/afx/AtomicFile.h"
 #include "host/db/AcDbBlockTable.h"
 #include "host/db/AcDbEntity.h"
-#include "host/db/AcDbLayerTable.h"
 #include "host/db/DxfRecordEditor.h"
 #include "host/db/DxfText.h"
 #include "host/dxf/DrawingFile.h"
@@ -122,10 +121,6 @@ std::vector<DrawingForm::Section> dxf::DrawingWriter::sections() const {
 }
 
 std::string dxf::DrawingWriter::write() {
-  if (m_database.hasRenames())
-    for (const AcDbStub& stub : m_database.stubs())
-      if (stub.object->isKindOf(AcDbEntity::desc()) || stub.object->isKindOf(AcDbLayerTableRecord::desc()))
-        stub.object->invalidateRecord();
   const auto list = sections();
   std::set<std::string> written;
   put(m_form.preamble.text());
@@ -172,7 +167,8 @@ void dxf::DrawingWriter::writeSection(std::string_view name) {
 AcDbHandle dxf::DrawingWriter::neededSeed() const {
   AcDbHandle highest;
   for (const AcDbStub& stub : m_database.stubs())
-    if (stub.object && !stub.object->isErased()) highest = std::max(highest, stub.handle);
+    if (!stub.object->isErased() && !stub.object->ownerId().isErased())
+      highest = std::max(highest, stub.handle);
   return std::max(m_form.seedAfterReading, AcDbHandle(highest.value() + 1));
 }
 

@@ -110,8 +110,7 @@ bool looksLikeUtf8(std::string_view line) {
 struct LineCounts {
   std::size_t converted = 0; // from the code page
   std::size_t utf8 = 0;
-  std::size_t kept = 0;    // undecodable, kept as bytes
-  std::size_t changed = 0; // undecodable, and other bytes when written
+  std::size_t kept = 0; // undecodable, kept as bytes
 };
 
 template <typename Convert> std::string byLines(std::string_view text, Convert convert) {
@@ -146,12 +145,33 @@ void appendEscape(wchar_t c, std::string& out) {
   }
 }
 
-// Text of a line that is written back as the same bytes. Bytes that the page doesn't explain stay as they
-// are, the characters around them where those come back; empty when nothing does.
-std::string keepingBytes(std::string_view line, const std::wstring& decoded, const afx::CodePage& page) {
+// Bytes that the page doesn't explain are carried as lone surrogates, which are the bytes again in UTF-8;
+// where two of them would read as a character there, characters of the last private area, which no page has,
+// stand for them.
+constexpr wchar_t kCarriedByte = 0xDC00;
+constexpr wchar_t kPrivateByte = 0x10FF00;
+
+std::string inPage(std::string_view text, const afx::CodePage& page) {
+  std::wstring wide = afx::Utf8ToWide(text);
+  for (wchar_t& c : wide)
+    if (c >= kPrivateByte + 0x80 && c <= kPrivateByte + 0xFF) c += kCarriedByte - kPrivateByte;
+  return page.Encode(wide, appendEscape);
+}
+
+// Text that is written back as the same line: with the characters that the page explains where those come
+// back, and otherwise with none of them.
+std::string keepingBytes(std::string_view line, std::wstring decoded, const afx::CodePage& page) {
   for (const std::string& text : {afx::WideToUtf8(decoded), std::string(line)})
-    if (page.Encode(afx::Utf8ToWide(text), appendEscape) == line) return text;
-  return {};
+    if (inPage(text, page) == line) return text;
+  for (wchar_t& c : decoded)
+    if (c >= kCarriedByte + 0x80 && c <= kCarriedByte + 0xFF) c += kPrivateByte - kCarriedByte;
+  std::string text = afx::WideToUtf8(decoded);
+  if (inPage(text, page) == line) return text;
+  decoded.clear();
+  for (const char c : line)
+    decoded += static_cast<wchar_t>(
+        static_cast<unsigned char>(c) < 0x80 ? c : kPrivateByte + static_cast<unsigned char>(c));
+  return afx::WideToUtf8(decoded);
 }
 
 std::string decodeLines(std::string_view text, const afx::CodePage& page, bool savedInPage,
@@ -170,9 +190,8 @@ std::string decodeLines(std::string_view text, const afx::CodePage& page, bool s
       out += afx::WideToUtf8(wide);
       return;
     }
-    const std::string kept = savedInPage ? keepingBytes(line, wide, page) : std::string(line);
-    ++(kept.empty() ? counts.changed : counts.kept);
-    out += kept.empty() ? afx::WideToUtf8(wide) : kept;
+    ++counts.kept;
+    out += savedInPage ? keepingBytes(line, wide, page) : std::string(line);
   });
 }
 
@@ -223,7 +242,6 @@ dxf::DecodedFile dxf::decodeFile(std::string bytes, DrawingForm& form) {
     note(L"%d 行文字不是 UTF-8，已按 %s 读入，将以 UTF-8 保存", counts.converted, pageName);
   if (!unicodeVersion && counts.utf8 > 0) note(L"%d 行文字实为 UTF-8，将以 %s 保存", counts.utf8, pageName);
   if (counts.kept > 0) note(L"%d 行含无法识别的字节，原样保留", counts.kept);
-  if (counts.changed > 0) note(L"%d 行含无法识别的字节，保存后字节会改变", counts.changed);
   return file;
 }
 
@@ -237,12 +255,11 @@ std::string dxf::encodeForFile(std::string_view text, const DrawingForm& form) {
     // A drawing that names no code page gets escapes, which every reader understands.
     const afx::CodePage* page = form.codePage.empty() ? nullptr : afx::CodePage::Find(form.codePage);
     encoded = byLines(text, [&](std::string_view line, std::string& out) {
-      const std::wstring wide = afx::Utf8ToWide(line);
       if (page) {
-        out += page->Encode(wide, appendEscape);
+        out += inPage(line, *page);
         return;
       }
-      for (const wchar_t c : wide) {
+      for (const wchar_t c : afx::Utf8ToWide(line)) {
         if (c < 0x80)
           out += static_cast<char>(c);
         else if (c >= 0xDC80 && c <= 0xDCFF)

@@ -20,14 +20,17 @@ bool announcesSubEntities(DxfTags tags) {
 
 } // namespace
 
+// The block that a BLOCK begins. Of several with one name each takes the record that is next.
 AcDbBlockTableRecord& dxf::DrawingReader::blockNamed(const CString& name) {
   AcDbSymbolTable& table = *m_database.tableOf("BLOCK_RECORD");
-  AcDbObjectId id;
-  if (table.getAt(name, id) == Acad::eOk) {
-    auto* found = static_cast<AcDbBlockTableRecord*>(id.object());
-    if (found->blockBeginId().isNull()) return *found;
-    m_context.repaired(m_scanner.tags().front(),
-                       quoted(L"块“%s”重名，保留但按名称只用第一个", name.Left(40)));
+  if (!table.filedUnder(name).empty()) {
+    auto* next = firstNamed(table, name, m_begunBlocks, [](const AcDbSymbolTableRecord& record) {
+      return static_cast<const AcDbBlockTableRecord&>(record).blockBeginId().isNull();
+    });
+    if (!next || next->objectId() != table.filedUnder(name).front())
+      m_context.repaired(m_scanner.tags().front(),
+                         quoted(L"块“%s”重名，保留但按名称只用第一个", name.Left(40)));
+    if (next) return *static_cast<AcDbBlockTableRecord*>(next);
   }
   auto* record = new AcDbBlockTableRecord;
   m_database.addAcDbObject(record, table.objectId());

@@ -85,16 +85,14 @@ void dxf::DrawingReader::readTable(AcDbSymbolTable& table) {
 
 AcDbObjectId dxf::DrawingReader::readTableEntry(AcDbSymbolTable& table) {
   const CString name = nameOf(m_scanner.tags());
-  AcDbObjectId known;
-  AcDbSymbolTableRecord* record = nullptr;
-  if (table.getAt(name, known) == Acad::eOk) {
-    auto* existing = static_cast<AcDbSymbolTableRecord*>(known.object());
-    if (existing->isImplicit())
-      record = existing;
-    else if (table.recordType() != "VPORT") // several viewports share one name
-      m_context.repaired(m_scanner.tags().front(),
-                         quoted(L"表项“%s”重名，保留但按名称只用第一个", name.Left(40)));
-  }
+  // Known already when something named it or, for a block, when it was read.
+  auto* record = firstNamed(table, name, m_readEntries,
+                            [](const AcDbSymbolTableRecord& entry) { return entry.isImplicit(); });
+  const auto& ofName = table.filedUnder(name);
+  if (!ofName.empty() && (!record || record->objectId() != ofName.front()) &&
+      table.recordType() != "VPORT") // several viewports share one name
+    m_context.repaired(m_scanner.tags().front(),
+                       quoted(L"表项“%s”重名，保留但按名称只用第一个", name.Left(40)));
   const bool isNew = !record;
   if (isNew) {
     record = static_cast<AcDbSymbolTableRecord*>(table.recordClass()->create());
