@@ -2,11 +2,15 @@
 
 #include "host/afx/Encoding.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <optional>
 
 namespace {
+
+// What a text needs decoding for: escapes, control characters, and zeros.
+constexpr std::string_view kSpecial("\\^\0", 3);
 
 std::optional<unsigned> hexNumber(std::string_view digits) {
   unsigned value = 0;
@@ -29,15 +33,14 @@ std::optional<std::wstring> multibyteEscape(char page, std::string_view digits) 
 } // namespace
 
 CString dxf::decodeText(std::string_view value) {
-  if (value.find_first_of("\\^") == value.npos) return CString(afx::Utf8ToWide(value));
+  if (value.find_first_of(kSpecial) == value.npos) return CString(afx::Utf8ToWide(value));
   std::wstring text;
   std::size_t plain = 0;
   const auto flush = [&](std::size_t end) { text += afx::Utf8ToWide(value.substr(plain, end - plain)); };
   for (std::size_t i = 0; i < value.size();) {
     const std::string_view rest = value.substr(i);
     if (rest.size() >= 7 && (rest.starts_with("\\U+") || rest.starts_with("\\u+"))) {
-      // A zero would end the text for everybody who takes it as one that ends in a zero.
-      if (const auto code = hexNumber(rest.substr(3, 4)); code && *code != 0) {
+      if (const auto code = hexNumber(rest.substr(3, 4))) {
         flush(i);
         // Two escapes may spell one character above U+FFFF.
         const bool high =
@@ -65,6 +68,8 @@ CString dxf::decodeText(std::string_view value) {
     ++i;
   }
   flush(value.size());
+  // A zero would end the text for everybody who takes it as one that ends in a zero.
+  std::replace(text.begin(), text.end(), L'\0', static_cast<wchar_t>(0xFFFD));
   return CString(text);
 }
 
