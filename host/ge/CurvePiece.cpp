@@ -18,8 +18,12 @@ double Magnitude(const AcGePoint2d& p) {
   return std::max(std::fabs(p.x), std::fabs(p.y));
 }
 
+double AtLeastSmallest(double length) {
+  return length >= kSmallestLength ? length : 0.0;
+}
+
 void SetArcMeasures(CurvePiece& piece, double offset) {
-  piece.length = piece.arc.radius * std::fabs(piece.arc.sweep);
+  piece.length = AtLeastSmallest(piece.arc.radius * AtLeastSmallest(std::fabs(piece.arc.sweep)));
   piece.magnitude = offset + Magnitude(piece.arc.center) + piece.arc.radius;
 }
 
@@ -42,7 +46,7 @@ CurvePiece StraightPiece(const AcGePoint2d& start, const AcGePoint2d& end, doubl
   CurvePiece piece;
   piece.start = start;
   piece.end = end;
-  piece.length = start.distanceTo(end);
+  piece.length = AtLeastSmallest(start.distanceTo(end));
   if (piece.length > 0.0) piece.along = (end - start) / piece.length;
   piece.magnitude = offset + std::max(Magnitude(start), Magnitude(end));
   piece.box = Box2d::FromCorners(start, end);

@@ -13,7 +13,7 @@ struct CurvePiece {
   bool isArc = false; // whether the next one counts
   PlanarArc arc;      // radius 0 is a point
   AcGeVector2d along; // of a straight piece: the unit direction, zero without a length
-  double length = 0.0;
+  double length = 0.0; // 0 for anything below kSmallestLength
   double magnitude = 0.0; // for CurveTolerance
   Box2d box;
 
