@@ -39,6 +39,7 @@ Curve Curve::Line(const AcGePoint3d& start, const AcGePoint3d& end) {
   curve.m_frame = CurveFrame::OfLine(start, end);
   curve.m_only = StraightPiece(curve.m_frame.ToPlane(start), curve.m_frame.ToPlane(end));
   curve.m_only.magnitude = std::max(Magnitude(start), Magnitude(end));
+  curve.Measure();
   return curve;
 }
 
@@ -55,6 +56,7 @@ Curve Curve::Arc(const AcGePoint3d& center, const AcGeVector3d& normal, double r
   const AcGePoint2d middle = curve.m_frame.ToPlane(center);
   curve.m_only =
       ArcPiece(ArcFromAngles(middle, radius, startAngle, endAngle), Magnitude(curve.m_frame.origin));
+  curve.Measure();
   return curve;
 }
 
@@ -79,6 +81,7 @@ Curve Curve::Polyline(std::span<const PolylineVertex> vertices, bool closed, con
   if (curve.m_lone) {
     curve.m_only = StraightPiece(vertices[0].point, vertices[0].point, offset);
     curve.m_only.bulge = vertices[0].bulge;
+    curve.Measure();
     return curve;
   }
   const std::size_t count = vertices.size() - (closed ? 0 : 1);
@@ -91,6 +94,7 @@ Curve Curve::Polyline(std::span<const PolylineVertex> vertices, bool closed, con
     else
       curve.m_only = piece;
   }
+  curve.Measure();
   return curve;
 }
 
@@ -108,6 +112,7 @@ Curve Curve::OfPieces(CurveKind kind, const CurveFrame& frame, std::vector<Curve
     curve.m_start = frame.ToWorld(curve.m_only.start);
     curve.m_end = frame.ToWorld(curve.m_only.end);
   }
+  curve.Measure();
   return curve;
 }
 
@@ -141,9 +146,14 @@ AcGePoint3d Curve::PieceWorldPoint(std::size_t index, double fraction) const {
 }
 
 double Curve::Tolerance() const {
-  double magnitude = 0.0;
-  for (const CurvePiece& piece : Pieces()) magnitude = std::max(magnitude, piece.magnitude);
-  return CurveTolerance(magnitude);
+  return CurveTolerance(m_magnitude);
+}
+
+void Curve::Measure() {
+  for (const CurvePiece& piece : Pieces()) {
+    m_magnitude = std::max(m_magnitude, piece.magnitude);
+    m_box.Add(piece.box);
+  }
 }
 
 AcGePoint3d Curve::Center() const {

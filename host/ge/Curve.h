@@ -52,6 +52,8 @@ class Curve {
   AcGePoint3d PieceWorldPoint(std::size_t index, double fraction) const;
   // Rounding included: see CurveTolerance.
   double Tolerance() const;
+  // The extents in plane coordinates.
+  const Box2d& Box() const { return m_box; }
 
   // What an entity stores, to be read back after an operation. Arcs and circles only, 0 otherwise:
   AcGePoint3d Center() const;
@@ -66,6 +68,7 @@ class Curve {
 
  private:
   explicit Curve(CurveKind kind) : m_kind(kind) {}
+  void Measure();
 
   CurveKind m_kind;
   CurveStatus m_status = CurveStatus::kOk;
@@ -74,6 +77,8 @@ class Curve {
   CurveFrame m_frame;
   AcGePoint3d m_start; // of a line, as given
   AcGePoint3d m_end;
+  Box2d m_box;
+  double m_magnitude = 0.0;
   CurvePiece m_only;                // the one piece, so that simple curves need no memory of their own
   std::vector<CurvePiece> m_pieces; // or, where there are several, all
 

@@ -21,6 +21,14 @@ struct Found {
   double tolerance = 0.0;
 };
 
+Box2d Grown(Box2d box, double by) {
+  box.minX -= by;
+  box.minY -= by;
+  box.maxX += by;
+  box.maxY += by;
+  return box;
+}
+
 class CurvePair {
  public:
   CurvePair(const Curve& first, const Curve& second, ExtendCurves extend)
@@ -32,6 +40,8 @@ class CurvePair {
   CurveIntersections Solve();
 
  private:
+  // What nearly all pairs of a drawing are, told by their boxes alone.
+  bool AreClearlyApart() const;
   void VisitCommonPlane();
   void VisitSpace();
   void VisitPair(std::size_t i, std::size_t j);
@@ -107,12 +117,9 @@ void CurvePair::VisitCommonPlane() {
   const auto boxOf = [&](const Curve& curve, std::size_t i, bool extended,
                          std::span<const CurvePiece> pieces) {
     const ReachedPiece reached = Reached(curve, i, extended, pieces);
-    Box2d box = pieces[i].box;
     const double infinity = std::numeric_limits<double>::infinity();
     if (reached.openStart || reached.openEnd) return Box2d{-infinity, -infinity, infinity, infinity};
-    box.minX -= m_tolerance;
-    box.minY -= m_tolerance;
-    return box;
+    return Grown(pieces[i].box, m_tolerance);
   };
   const auto boxesOf = [&](const Curve& curve, bool extended, std::span<const CurvePiece> pieces) {
     std::vector<PieceBox> boxes;
@@ -186,7 +193,13 @@ void CurvePair::DropDuplicates() {
   m_found = std::move(kept);
 }
 
+bool CurvePair::AreClearlyApart() const {
+  if (m_firstExtended || m_secondExtended || !m_first.Frame().SharesAxes(m_second.Frame())) return false;
+  return !Grown(m_first.Box(), m_tolerance).Overlaps(m_second.Box());
+}
+
 CurveIntersections CurvePair::Solve() {
+  if (AreClearlyApart()) return {};
   FindPairPlane(m_first, m_second, m_tolerance, m_plane);
   if (m_plane.kind == PairPlaneKind::kCommon) VisitCommonPlane();
   if (m_plane.kind == PairPlaneKind::kCrossing) VisitSpace();

@@ -9,11 +9,11 @@ namespace ge {
 struct CurvePiece {
   AcGePoint2d start; // as given, not computed from the arc
   AcGePoint2d end;
-  double bulge = 0.0; // tangent of a quarter of the sweep
-  bool isArc = false; // whether the next one counts
-  PlanarArc arc;      // radius 0 is a point
-  AcGeVector2d along; // of a straight piece: the unit direction, zero without a length
-  double length = 0.0; // 0 for anything below kSmallestLength
+  double bulge = 0.0;     // tangent of a quarter of the sweep
+  bool isArc = false;     // whether the next one counts
+  PlanarArc arc;          // radius 0 is a point
+  AcGeVector2d along;     // of a straight piece: the unit direction, zero without a length
+  double length = 0.0;    // 0 for anything below kSmallestLength
   double magnitude = 0.0; // for CurveTolerance
   Box2d box;
 

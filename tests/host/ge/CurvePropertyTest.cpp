@@ -121,6 +121,27 @@ TEST(CurveProperty, ThePartsOfASplitMakeTheWhole) {
   }
 }
 
+// A part of a bulge has a centre of its own that rounding may have moved far along the radius. Still it is
+// the same curve.
+TEST(CurveProperty, APartRunsAlongTheWhole) {
+  Maker make(39);
+  make.shift = 10000;
+  for (int round = 0; round < Rounds(5000); ++round) {
+    const PolylineVertex vertices[] = {
+        {{make.Coordinate(), make.Coordinate()}, std::pow(10.0, make.Real(-2, 0))},
+        {{make.Coordinate(), make.Coordinate()}}};
+    const Curve whole = Curve::Polyline(vertices, false);
+    const double middle = make.Real(0.2, 0.8);
+    const double cuts[] = {middle - 0.05, middle + 0.05};
+    const Curve part = SplitAtParameters(whole, cuts).value[1];
+    const auto meetings = Intersect(part, whole);
+    ASSERT_TRUE(meetings.overlap) << round;
+    ASSERT_EQ(meetings.points.size(), 2u) << round;
+    ASSERT_LE(meetings.points[0].point.distanceTo(StartPoint(part).value), 1e-9);
+    ASSERT_LE(meetings.points[1].point.distanceTo(EndPoint(part).value), 1e-9);
+  }
+}
+
 TEST(CurveProperty, AMovedEndStandsAtThePointAndTheRestStays) {
   Maker make(35);
   for (int round = 0; round < Rounds(20000); ++round) {
