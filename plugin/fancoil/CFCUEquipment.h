@@ -1,0 +1,35 @@
+// One model of fan-coil unit in the catalogue. Its name as an object and the model in its record are the same
+// as long as the name is set through SetName.
+#pragma once
+
+#include "plugin/base/CZPObject.h"
+#include "plugin/fancoil/SKTFCUEquipmentData.h"
+
+class ZP_EXPORT CFCUEquipment : public CZPObject {
+  DECLARE_DYNAMIC(CFCUEquipment)
+
+ public:
+  CFCUEquipment();
+  CFCUEquipment(const CFCUEquipment& other); // the parent too, as it stands
+  CFCUEquipment& operator=(const CFCUEquipment& other);
+  ~CFCUEquipment() override;
+
+  void SetName(const CString& name) override; // the model in the record too
+
+  // The maker that holds it, borrowed; null while none does.
+  void SetParent(CZPObject* parent) { m_pParent = parent; }
+  CZPObject* GetParent() const { return m_pParent; }
+
+  // Places for two values that a caller works out for the unit. Kept in memory only.
+  void SetRealQ(double value) { m_dbRealQ = value; }
+  double GetRealQ() const { return m_dbRealQ; }
+  void SetRealG(double value) { m_dbRealG = value; }
+  double GetRealG() const { return m_dbRealG; }
+
+  SKTFCUEquipmentData m_data;
+
+ private:
+  double m_dbRealQ = 0.0;
+  double m_dbRealG = 0.0;
+  CZPObject* m_pParent = nullptr;
+};
