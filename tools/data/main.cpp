@@ -10,13 +10,15 @@
 #include "tools/data/PipeMaterials.h"
 #include "tools/data/Radiators.h"
 #include "tools/data/Table.h"
+#include "tools/data/fancoil/FanCoils.h"
+#include "tools/data/fancoil/WaterSystems.h"
 
 namespace {
 
 // The catalogues load what stands there before they are filled, and the pipes keep sections that are not
 // theirs; the result shall depend on the tables alone.
 constexpr const char* kFiles[] = {"Data/PipeMaterial.idp", "Data/LayerManager/默认方案.idp",
-                                  "HeatingData/Srq.idp"};
+                                  "HeatingData/Srq.idp", "Data/FCUData.idp", "Data/KTSLDatabase.xml"};
 
 void Write(const std::string& tables, const std::filesystem::path& output) {
   for (const char* file : kFiles) std::filesystem::remove(output / file);
@@ -24,6 +26,8 @@ void Write(const std::string& tables, const std::filesystem::path& output) {
   WritePipeMaterials(tables);
   WriteLayerScheme(tables);
   WriteRadiators(tables);
+  WriteFanCoils(tables);
+  WriteWaterSystems(tables);
 }
 
 } // namespace
