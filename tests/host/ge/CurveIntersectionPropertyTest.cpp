@@ -124,13 +124,13 @@ void CheckRandomPairs(Maker make, int rounds, int mostVertices) {
 }
 
 TEST(CurveIntersectionProperty, ScatteredPairs) {
-  CheckRandomPairs(Maker(21), Rounds(50000), 4);
+  CheckRandomPairs(Maker(21), Rounds(40000), 4);
 }
 
 TEST(CurveIntersectionProperty, PairsOnAGrid) {
   Maker make(22);
   make.grid = true;
-  CheckRandomPairs(make, Rounds(80000), 4);
+  CheckRandomPairs(make, Rounds(70000), 4);
 }
 
 TEST(CurveIntersectionProperty, LongerPolylinesOnAGrid) {
