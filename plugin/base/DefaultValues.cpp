@@ -71,10 +71,10 @@ class Defaults {
   std::unordered_map<CString, std::variant<double, CString>> m_unsaved;
 };
 
-// Never destroyed: a dialog may be closed while the process ends.
+// Goes with the plug-in: what a plug-in that is unloaded leaves behind nobody can free.
 Defaults& TheDefaults() {
-  static auto* defaults = new Defaults;
-  return *defaults;
+  static Defaults defaults;
+  return defaults;
 }
 
 } // namespace

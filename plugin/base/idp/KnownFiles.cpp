@@ -23,10 +23,10 @@ struct Knowledge {
   bool foreign = false;
 };
 
-// Never destroyed: catalogues may save while the process ends.
+// Goes with the plug-in: what a plug-in that is unloaded leaves behind nobody can free.
 std::unordered_map<std::string, Knowledge>& Known() {
-  static auto* known = new std::unordered_map<std::string, Knowledge>;
-  return *known;
+  static std::unordered_map<std::string, Knowledge> known;
+  return known;
 }
 
 std::size_t HashOf(std::string_view content) {
