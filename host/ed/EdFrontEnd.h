@@ -47,6 +47,8 @@ class EdFrontEnd {
 
   // The document's picture is to be drawn anew.
   virtual void regenerate(AcApDocument&) {}
+  // What is shown over the drawing (EdSession::transients) is to be drawn anew.
+  virtual void transientsChanged() {}
   // Null where there are no windows.
   virtual CWnd* mainWindow() { return nullptr; }
   virtual CWnd* drawingView() { return nullptr; }

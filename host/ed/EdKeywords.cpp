@@ -40,19 +40,24 @@ EdKeywords::EdKeywords(const CString& list) {
   }
 }
 
-std::optional<CString> EdKeywords::match(const CString& typed) const {
+std::optional<std::size_t> EdKeywords::matchIndex(const CString& typed) const {
   std::wstring_view text = typed.View();
   if (text.starts_with(L'_')) text.remove_prefix(1);
   if (text.empty()) return std::nullopt;
-  for (const auto& word : m_words) {
-    if (sameText(text, word.least.View())) return word.global;
+  for (std::size_t i = 0; i < m_words.size(); ++i) {
+    const auto& word = m_words[i];
     const auto full = word.word.View();
-    if (text.size() <= full.size() && text.size() >= word.least.View().size() &&
-        sameText(text, full.substr(0, text.size())))
-      return word.global;
-    if (sameText(text, word.global.View())) return word.global;
+    const bool abbreviates = text.size() <= full.size() && text.size() >= word.least.View().size() &&
+                             sameText(text, full.substr(0, text.size()));
+    if (abbreviates || sameText(text, word.least.View()) || sameText(text, word.global.View())) return i;
   }
   return std::nullopt;
+}
+
+std::optional<CString> EdKeywords::match(const CString& typed) const {
+  const auto index = matchIndex(typed);
+  if (!index) return std::nullopt;
+  return m_words[*index].global;
 }
 
 CString EdKeywords::text() const {

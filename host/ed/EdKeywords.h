@@ -17,6 +17,8 @@ class EdKeywords {
   bool isEmpty() const { return m_words.empty(); }
   // The keyword that was typed, in the program's spelling. A leading "_" is allowed.
   std::optional<CString> match(const CString& typed) const;
+  // Its place in the list, from 0.
+  std::optional<std::size_t> matchIndex(const CString& typed) const;
   // "L、A、U", for messages.
   CString text() const;
 

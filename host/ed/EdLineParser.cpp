@@ -53,6 +53,15 @@ std::vector<CString> words(const CString& line) {
   return result;
 }
 
+// What stands behind a verb and a blank; nothing for a line with another verb.
+std::optional<CString> Behind(std::wstring_view verb, const CString& line) {
+  const CString text = trimmed(line);
+  if (!sameText(text.Left(static_cast<int>(verb.size())), verb)) return std::nullopt;
+  const CString rest = text.Mid(static_cast<int>(verb.size()));
+  if (rest.IsEmpty() || (rest[0] != L' ' && rest[0] != L'\t')) return std::nullopt;
+  return trimmed(rest);
+}
+
 struct SelectionWord {
   const wchar_t* word;
   const wchar_t* brief;
@@ -104,6 +113,11 @@ std::optional<AcGePoint3d> ParsePoint(const CString& line, const AcGePoint3d& la
   return point;
 }
 
+std::optional<AcGePoint3d> ParseDrag(const CString& line, const AcGePoint3d& lastPoint) {
+  const auto rest = Behind(L"drag", line);
+  return rest ? ParsePoint(*rest, lastPoint) : std::nullopt;
+}
+
 std::optional<AcDbHandle> ParseHandle(const CString& line) {
   const CString text = trimmed(line);
   if (!text.View().starts_with(L'#')) return std::nullopt;
@@ -113,12 +127,7 @@ std::optional<AcDbHandle> ParseHandle(const CString& line) {
 }
 
 std::optional<CString> ParseAnswer(const CString& line) {
-  const CString text = trimmed(line);
-  constexpr std::wstring_view verb = L"answer";
-  if (!sameText(text.Left(static_cast<int>(verb.size())), verb)) return std::nullopt;
-  const CString rest = text.Mid(static_cast<int>(verb.size()));
-  if (rest.IsEmpty() || (rest[0] != L' ' && rest[0] != L'\t')) return std::nullopt;
-  return trimmed(rest);
+  return Behind(L"answer", line);
 }
 
 std::optional<std::size_t> FindButton(const std::vector<CString>& buttons, const CString& answer) {

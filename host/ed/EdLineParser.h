@@ -18,6 +18,9 @@ bool IsCancelLine(const CString& line);
 // degrees. A point without z lies at the height of 0. Nothing for other text, or a number that is not finite.
 std::optional<AcGePoint3d> ParsePoint(const CString& line, const AcGePoint3d& lastPoint);
 
+// "drag x,y": where the cursor is moved without picking. Nothing for any other line.
+std::optional<AcGePoint3d> ParseDrag(const CString& line, const AcGePoint3d& lastPoint);
+
 // All of the text is one finite number.
 std::optional<double> ParseReal(const CString& line);
 std::optional<long> ParseInteger(const CString& line);

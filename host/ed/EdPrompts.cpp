@@ -14,6 +14,7 @@ namespace ed {
 namespace {
 
 using Status = Answer::Status;
+using Wants = EdPromptState::Wants;
 
 // Takes a line that is neither Enter, Escape nor a keyword into the answer; gives why it can't.
 using Reader = std::function<std::optional<CString>(const CString& line, Answer& answer)>;
@@ -36,12 +37,30 @@ CString expectation(const wchar_t* form, const EdKeywords& keywords, int flags) 
   return text + L"，或 *cancel*（取消）";
 }
 
-Answer ask(const Question& question, const wchar_t* form, const Reader& read, bool freeText = false) {
+Answer ask(const Question& question, Wants wants, const wchar_t* form, const Reader& read,
+           bool freeText = false) {
   auto& session = EdSession::instance();
   const auto& keywords = question.keywords;
+  AcGePoint3d cursor = lastPoint(question);
+  std::optional<EdTransient> preview;
+  EdPromptScope asking(session.prompts(),
+                       {wants, promptText(question.prompt), keywords, question.base, {}, {}});
+  if (question.preview) {
+    preview.emplace(session.transients(), [&](AcGiWorldDraw& draw) { question.preview(draw, cursor); });
+    asking.state().follow = [&](const AcGePoint3d& world) {
+      cursor = world;
+      preview->changed();
+    };
+  }
   Answer answer;
   while (true) {
     const auto line = session.input().read(promptText(question.prompt), freeText);
+    if (line && !freeText) {
+      if (const auto moved = ParseDrag(line->text, lastPoint(question))) {
+        session.prompts().cursorMoved(*moved);
+        continue;
+      }
+    }
     if (!line) PrintInputEnd(question.prompt);
     if (!line || IsCancelLine(line->text)) {
       PrintCancelled();
@@ -89,10 +108,12 @@ void PrintCancelled() {
   EdSession::instance().print(L"\n*取消*\n");
 }
 
-Answer AskPoint(const Question& question) {
+namespace {
+
+Answer askPointAs(Wants wants, const Question& question) {
   const auto from = lastPoint(question);
   const auto answer =
-      ask(question, kPointForm, [&](const CString& line, Answer& into) -> std::optional<CString> {
+      ask(question, wants, kPointForm, [&](const CString& line, Answer& into) -> std::optional<CString> {
         const auto point = ParsePoint(line, from);
         if (!point) return L"“" + Excerpt(line) + L"”不是点。";
         into.point = *point;
@@ -102,43 +123,56 @@ Answer AskPoint(const Question& question) {
   return answer;
 }
 
+} // namespace
+
+Answer AskPoint(const Question& question) {
+  return askPointAs(Wants::point, question);
+}
+
+Answer AskCorner(const Question& question) {
+  return askPointAs(Wants::corner, question);
+}
+
 Answer AskReal(const Question& question) {
-  return ask(question, L"数值", [&](const CString& line, Answer& into) -> std::optional<CString> {
-    const auto value = ParseReal(line);
-    if (!value) return L"“" + Excerpt(line) + L"”不是数值。";
-    into.real = *value;
-    return signProblem(*value, question.flags);
-  });
+  return ask(question, Wants::number, L"数值",
+             [&](const CString& line, Answer& into) -> std::optional<CString> {
+               const auto value = ParseReal(line);
+               if (!value) return L"“" + Excerpt(line) + L"”不是数值。";
+               into.real = *value;
+               return signProblem(*value, question.flags);
+             });
 }
 
 Answer AskInteger(const Question& question) {
-  return ask(question, L"整数", [&](const CString& line, Answer& into) -> std::optional<CString> {
-    const auto value = ParseInteger(line);
-    if (!value) return L"“" + Excerpt(line) + L"”不是整数。";
-    into.integer = *value;
-    return signProblem(static_cast<double>(*value), question.flags);
-  });
+  return ask(question, Wants::number, L"整数",
+             [&](const CString& line, Answer& into) -> std::optional<CString> {
+               const auto value = ParseInteger(line);
+               if (!value) return L"“" + Excerpt(line) + L"”不是整数。";
+               into.integer = *value;
+               return signProblem(static_cast<double>(*value), question.flags);
+             });
 }
 
 Answer AskDistance(const Question& question) {
   const auto from = lastPoint(question);
-  return ask(question, L"距离或第二点", [&](const CString& line, Answer& into) -> std::optional<CString> {
-    if (const auto value = ParseReal(line)) {
-      into.real = *value;
-    } else if (const auto point = ParsePoint(line, from)) {
-      into.point = *point;
-      into.isPoint = true;
-      into.real = (*point - from).length();
-    } else {
-      return L"“" + Excerpt(line) + L"”不是距离。";
-    }
-    return signProblem(into.real, question.flags);
-  });
+  return ask(question, Wants::distance, L"距离或第二点",
+             [&](const CString& line, Answer& into) -> std::optional<CString> {
+               if (const auto value = ParseReal(line)) {
+                 into.real = *value;
+               } else if (const auto point = ParsePoint(line, from)) {
+                 into.point = *point;
+                 into.isPoint = true;
+                 into.real = (*point - from).length();
+               } else {
+                 return L"“" + Excerpt(line) + L"”不是距离。";
+               }
+               return signProblem(into.real, question.flags);
+             });
 }
 
 Answer AskText(const Question& question, bool withBlanks) {
   const auto answer = ask(
-      question, L"文字",
+      question, Wants::text, L"文字",
       [](const CString& line, Answer& into) -> std::optional<CString> {
         into.text = line;
         return std::nullopt;
@@ -148,7 +182,7 @@ Answer AskText(const Question& question, bool withBlanks) {
 }
 
 Answer AskKeyword(const Question& question) {
-  return ask(question, L"", [](const CString& line, Answer&) -> std::optional<CString> {
+  return ask(question, Wants::keyword, L"", [](const CString& line, Answer&) -> std::optional<CString> {
     return L"没有选项“" + Excerpt(line) + L"”。";
   });
 }
@@ -162,7 +196,7 @@ Answer AskEntity(const Question& question) {
   }
   const auto from = lastPoint(question);
   const auto& database = *document->database();
-  return ask(question, L"实体上的点 x,y，或 #句柄",
+  return ask(question, Wants::entity, L"实体上的点 x,y，或 #句柄",
              [&](const CString& line, Answer& into) -> std::optional<CString> {
                if (const auto handle = ParseHandle(line)) {
                  database.getAcDbObjectId(into.entity, false, *handle);

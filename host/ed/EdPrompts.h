@@ -7,7 +7,10 @@
 #include "host/ed/EdKeywords.h"
 #include "host/ge/AcGePoint3d.h"
 
+#include <functional>
 #include <optional>
+
+class AcGiWorldDraw;
 
 // Bits of acedInitGet.
 inline constexpr int RSG_NONULL = 0x1; // an empty line is no answer
@@ -22,6 +25,8 @@ struct Question {
   EdKeywords keywords;
   int flags = 0;
   std::optional<AcGePoint3d> base; // relative coordinates count from here instead of the last point
+  // What is shown over the drawing while the user moves the cursor to a point; may be empty.
+  std::function<void(AcGiWorldDraw&, const AcGePoint3d& cursor)> preview = {};
 };
 
 struct Answer {
@@ -41,6 +46,8 @@ struct Answer {
 };
 
 Answer AskPoint(const Question& question);
+// The corner opposite to question.base.
+Answer AskCorner(const Question& question);
 Answer AskReal(const Question& question);
 Answer AskInteger(const Question& question);
 // A number, or the distance of a point from the base.

@@ -22,6 +22,9 @@ EdSession& EdSession::instance() {
 void EdSession::setFrontEnd(EdFrontEnd* frontEnd) {
   m_frontEnd = frontEnd;
   m_input.setFrontEnd(frontEnd);
+  m_transients.setObserver([frontEnd] {
+    if (frontEnd) frontEnd->transientsChanged();
+  });
 }
 
 void EdSession::reset() {

@@ -5,6 +5,8 @@
 #include "host/ed/AcEdCommand.h"
 #include "host/ed/EdInput.h"
 #include "host/ed/EdKeywords.h"
+#include "host/ed/EdPromptState.h"
+#include "host/ed/EdTransients.h"
 
 #include <memory>
 #include <vector>
@@ -43,6 +45,10 @@ class EdSession {
   bool commandUsesPickSet() const;
   std::size_t commandDepth() const { return m_running.size(); }
 
+  // What is asked for now, and what is shown over the drawing meanwhile.
+  EdPromptStates& prompts() { return m_prompts; }
+  EdTransients& transients() { return m_transients; }
+
   // Every prompt tells how it ended, and so does a dialog's event: a command whose last input was Escape
   // counts as cancelled.
   void noteInput(bool cancelled);
@@ -79,6 +85,8 @@ class EdSession {
 
   EdFrontEnd* m_frontEnd = nullptr;
   EdInput m_input;
+  EdPromptStates m_prompts;
+  EdTransients m_transients;
   std::vector<std::unique_ptr<Running>> m_running;
   CString m_lastCommand;
   InitGet m_initGet;

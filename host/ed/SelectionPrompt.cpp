@@ -33,7 +33,7 @@ AcDbObjectId entityOf(const AcDbDatabase& database, const AcDbHandle& handle) {
 bool askCorners(SelectionLine& line) {
   const auto first = AskPoint({L"指定第一个角点:", {}, RSG_NONULL, {}});
   if (!first.hasValue()) return false;
-  const auto second = AskPoint({L"指定对角点:", {}, RSG_NONULL, first.point});
+  const auto second = AskCorner({L"指定对角点:", {}, RSG_NONULL, first.point});
   if (!second.hasValue()) return false;
   line.first = first.point;
   line.second = second.point;
@@ -121,6 +121,7 @@ SelectionAnswer AskSelection(const SelectionQuestion& question, const SelectionF
   }
   CString prompt = question.prompt;
   prompt.TrimLeft(L"\n");
+  EdPromptScope asking(session.prompts(), {EdPromptState::Wants::selection, prompt, {}, {}, {}, {}});
   while (true) {
     const auto line = session.input().read(prompt);
     if (!line) PrintInputEnd(prompt);

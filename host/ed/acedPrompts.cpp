@@ -67,7 +67,7 @@ int acedGetPoint(const ads_real* base, const wchar_t* prompt, ads_real* result) 
 }
 
 int acedGetCorner(const ads_real* base, const wchar_t* prompt, ads_real* result) {
-  const auto answer = ed::AskPoint(question(prompt, L"指定对角点:", base));
+  const auto answer = ed::AskCorner(question(prompt, L"指定对角点:", base));
   if (answer.hasValue()) copyPoint(answer.point, result);
   return resultOf(answer);
 }

@@ -4,7 +4,9 @@
 #include "host/ed/EdFrontEnd.h"
 
 #include <deque>
+#include <functional>
 #include <initializer_list>
+#include <utility>
 #include <vector>
 
 class ScriptedFrontEnd : public EdFrontEnd {
@@ -17,12 +19,15 @@ class ScriptedFrontEnd : public EdFrontEnd {
   std::vector<CString> prompts;    // of all lines that were echoed
   int regenerations = 0;
   std::optional<double> aperture;
+  std::function<void()> beforeLine; // what the user does with the mouse before the next line
+  std::function<void()> onTransients;
 
   void type(std::initializer_list<const wchar_t*> more) {
     lines.insert(lines.end(), more.begin(), more.end());
   }
 
   std::optional<CString> readLine(const CString&) override {
+    if (beforeLine) std::exchange(beforeLine, nullptr)();
     if (lines.empty()) return std::nullopt;
     CString line = lines.front();
     lines.pop_front();
@@ -39,6 +44,9 @@ class ScriptedFrontEnd : public EdFrontEnd {
   }
   void lineRefused(const EdRefusal& refusal) override { refusals.push_back(refusal); }
   void regenerate(AcApDocument&) override { ++regenerations; }
+  void transientsChanged() override {
+    if (onTransients) onTransients();
+  }
   std::optional<double> pickAperture() override { return aperture; }
 
   bool said(const wchar_t* text) const { return output.Find(text) >= 0; }
