@@ -5,7 +5,10 @@
 #include <algorithm>
 #include <concepts>
 #include <functional>
+#include <utility>
 #include <vector>
+
+#include "plugin/base/ZpExport.h"
 
 namespace vk {
 
@@ -51,8 +54,7 @@ template <class Beyond> struct Before {
 // it, less the greater ones before it. That is a stable sort, and is done as one. Counting comparisons leaves
 // a hole where it is and is undefined as soon as an element has to pass it: here the holes keep their places,
 // and the others are sorted over the places that remain.
-template <class T, class Beyond, class IsHole>
-void SortBlock(T* data, int length, Beyond beyond, IsHole isHole) {
+template <class T, class Beyond> void SortBlock(T* data, int length, Beyond beyond, auto isHole) {
   T* const end = data + length;
   if (std::none_of(data, end, isHole)) {
     std::stable_sort(data, end, Before<Beyond>{beyond});
@@ -69,6 +71,26 @@ void SortBlock(T* data, int length, Beyond beyond, IsHole isHole) {
   }
 }
 
+// The same with one copy of the sort for pointers of all kinds. before(a, b, context) tells whether a stands
+// before b.
+using PointerBefore = bool (*)(void* a, void* b, const void* context);
+ZP_EXPORT void SortPointers(std::vector<void*>& pointers, PointerBefore before, const void* context);
+
+template <class T, class Beyond> bool IsPointerBefore(void* a, void* b, const void* beyond) {
+  return Before<Beyond>{*static_cast<const Beyond*>(beyond)}(static_cast<T*>(a), static_cast<T*>(b));
+}
+template <class T, class Beyond> void SortBlock(T** data, int length, Beyond beyond, auto isHole) {
+  std::vector<void*> values;
+  for (int i = 0; i < length; ++i) {
+    if (!isHole(data[i])) values.push_back(const_cast<void*>(static_cast<const void*>(data[i])));
+  }
+  SortPointers(values, IsPointerBefore<T, Beyond>, &beyond);
+  auto next = values.begin();
+  for (int i = 0; i < length; ++i) {
+    if (!isHole(data[i])) data[i] = static_cast<T*>(*next++);
+  }
+}
+
 // What a list sorts: a node and the value to sort it by, null for what goes first.
 template <class T, class Node> struct SortEntry {
   const T* key;
@@ -81,15 +103,20 @@ template <class Beyond> struct EntryBefore {
   }
 };
 
+// Below, at or above 0 as the wanted value is below, equal to or above the element.
+template <class T> int OrderOf(const T& value, const T& element) {
+  return value < element ? -1 : value > element ? 1 : 0;
+}
+
 // Where a search over ascending contents ends: at an equal element, or where the value would have to go.
 struct Place {
   int index;
   bool found;
 };
 
-// orderAt(i) is below, at or above 0 as the wanted value is below, equal to or above the element i, and
-// isHole(i) whether there is nothing to compare with. from and to are valid indices. Of several equal
-// elements that one is found which halving meets first.
+// orderAt(i) is the order of the wanted value to the element i, and isHole(i) whether there is nothing to
+// compare with. from and to are valid indices. Of several equal elements that one is found which halving
+// meets first.
 template <class OrderAt, class IsHole> Place BinarySearch(int from, int to, OrderAt orderAt, IsHole isHole) {
   const int first = from;
   while (from <= to && isHole(from)) ++from;

@@ -64,7 +64,7 @@ template <class T> int VkArray<T>::Find(const T& value, int from, int to) const 
 
 template <class T> int VkArray<T>::BFind(const T& value, int from, int to) const {
   if (!Clip(from, to)) return -1;
-  const auto order = [&](int index) { return value < At(index) ? -1 : value > At(index) ? 1 : 0; };
+  const auto order = [&](int index) { return vk::OrderOf(value, At(index)); };
   const vk::Place place = vk::BinarySearch(from, to, order, vk::NoHoles());
   return place.found ? place.index : -1;
 }

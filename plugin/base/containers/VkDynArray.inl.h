@@ -26,6 +26,8 @@ template <class T> void VkDynArray<T>::ChangeLength(int count) {
 template <class T> void VkDynArray<T>::EnsureSpace(int more) {
   const std::int64_t needed = std::int64_t{m_nLength} + more;
   if (needed <= m_nSpaceSize) return;
+  // What stood behind the length does not come along.
+  std::fill(m_block.Data() + m_nLength, m_block.Data() + m_nSpaceSize, T());
   constexpr std::int64_t kLimit = std::numeric_limits<int>::max();
   m_block.Ensure(std::max(needed, std::min(needed + m_nAllocUnit, kLimit)), m_nLength);
   m_nSpaceSize = static_cast<int>(std::min(needed + m_nAllocUnit, kLimit));

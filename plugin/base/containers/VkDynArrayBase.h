@@ -116,14 +116,14 @@ template <class T> class ZP_EXPORT VkDynArrayBase {
   template <class Next> int FindBy(const T& value, int from, int to, Next next) const;
   // Deletes each element that doomed(element) says so of, in order. The question may destroy what it dooms.
   template <class Doomed> int DeleteEach(Doomed doomed);
-  // BFindTo by order(element): below, at or above 0 as the wanted value is below, equal to or above it.
+  // BFindTo by order(element), the order of the wanted value to it.
   template <class Order, class IsHole> bool BFindToBy(int from, int to, Order order, IsHole isHole);
-  static int OrderOf(const T& value, const T& element);
 
   int m_nLength = 0;
   int m_nCursor = -1;
 
  private:
+  void Refill(int count); // so many elements, for values that follow; the cursor keeps its index
   void CopySlice(int from, int count, VkDynArrayBase& out) const;
 };
 

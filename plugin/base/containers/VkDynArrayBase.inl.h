@@ -105,13 +105,9 @@ template <class T> int VkDynArrayBase<T>::FindOrInsertHead(const T& value) {
   return 0;
 }
 
-template <class T> int VkDynArrayBase<T>::OrderOf(const T& value, const T& element) {
-  return value < element ? -1 : value > element ? 1 : 0;
-}
-
 template <class T> int VkDynArrayBase<T>::BFind(const T& value, int from, int to) const {
   if (!Clip(from, to)) return -1;
-  const auto order = [&](int index) { return OrderOf(value, GetAt(index)); };
+  const auto order = [&](int index) { return vk::OrderOf(value, GetAt(index)); };
   const vk::Place place = vk::BinarySearch(from, to, order, vk::NoHoles());
   return place.found ? place.index : -1;
 }
@@ -134,7 +130,7 @@ bool VkDynArrayBase<T>::BFindToBy(int from, int to, Order order, IsHole isHole) 
 
 template <class T> bool VkDynArrayBase<T>::BFindTo(const T& value, int from, int to) {
   return BFindToBy(
-      from, to, [&](const T& element) { return OrderOf(value, element); }, vk::NoHoles());
+      from, to, [&](const T& element) { return vk::OrderOf(value, element); }, vk::NoHoles());
 }
 
 template <class T> bool VkDynArrayBase<T>::SortInto(const T& value, bool allowDuplicate) {
@@ -146,14 +142,18 @@ template <class T> bool VkDynArrayBase<T>::SortInto(const T& value, bool allowDu
   return true;
 }
 
+template <class T> void VkDynArrayBase<T>::Refill(int count) {
+  const int cursor = m_nCursor;
+  SetLength(0, false); // a member that owns what it points to deletes all, whatever the new length
+  SetLength(count, false);
+  MoveTo(cursor);
+}
+
 template <class T> void VkDynArrayBase<T>::DeepCopy(const VkDynArrayBase& other) {
   if (this == &other) return;
-  const int cursor = m_nCursor;
-  SetLength(0, false); // for a member that owns what it points to: deletes all, whatever the new length
-  SetLength(other.m_nLength, false);
+  Refill(other.m_nLength);
   T* to = GetFirst();
   for (const T* from = other.GetFirst(); from; from = other.GetNext(from), to = GetNext(to)) *to = *from;
-  MoveTo(cursor);
 }
 
 template <class T> void VkDynArrayBase<T>::Reverse(int from, int to) {
@@ -180,8 +180,7 @@ template <class T> void VkDynArrayBase<T>::CopySlice(int from, int count, VkDynA
     out.SetLength(count, true);
     return;
   }
-  out.SetLength(0, false); // as in DeepCopy
-  out.SetLength(count, false);
+  out.Refill(count);
   T* to = out.GetFirst();
   for (int i = 0; i < count; ++i, at = GetNext(at), to = out.GetNext(to)) *to = *at;
 }

@@ -71,9 +71,6 @@ template <class T, class Storage> class ZP_EXPORT VkOwning : public Storage {
  private:
   // Deletes the objects from the index on and leaves null in their slots.
   void DeleteFrom(int index);
-  static int OrderOf(const T& value, const T& element) {
-    return value < element ? -1 : value > element ? 1 : 0;
-  }
 };
 
 #include "plugin/base/containers/VkOwning.inl.h"

@@ -142,7 +142,7 @@ template <class T, class Storage>
 int VkOwning<T, Storage>::BFindData(const T& value, int from, int to) const requires std::totally_ordered<T> {
   if (!this->Clip(from, to)) return -1;
   const vk::Place place = vk::BinarySearch(
-      from, to, [&](int index) { return OrderOf(value, GetPData(index)); },
+      from, to, [&](int index) { return vk::OrderOf(value, GetPData(index)); },
       [&](int index) { return IsEmptyData(index); });
   return place.found ? place.index : -1;
 }
@@ -150,6 +150,6 @@ int VkOwning<T, Storage>::BFindData(const T& value, int from, int to) const requ
 template <class T, class Storage>
 bool VkOwning<T, Storage>::BFindDataTo(const T& value, int from, int to) requires std::totally_ordered<T> {
   return this->BFindToBy(
-      from, to, [&](T* element) { return OrderOf(value, *element); },
+      from, to, [&](T* element) { return vk::OrderOf(value, *element); },
       [&](int index) { return IsEmptyData(index); });
 }
