@@ -45,7 +45,7 @@ class EdSession {
   bool commandUsesPickSet() const;
   std::size_t commandDepth() const { return m_running.size(); }
 
-  // What is asked for now, and what is shown over the drawing meanwhile.
+  // What is being asked for, and what is shown over the drawing meanwhile.
   EdPromptStates& prompts() { return m_prompts; }
   EdTransients& transients() { return m_transients; }
 
