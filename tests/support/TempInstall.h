@@ -30,6 +30,9 @@ class TempInstall {
 
   void Write(const std::filesystem::path& relative, const std::string& bytes) const {
     std::filesystem::create_directories((m_root / relative).parent_path());
+    // Some file systems flush a file that is cut to nothing and written anew, which sweeps would wait for.
+    std::error_code ignored;
+    std::filesystem::remove(m_root / relative, ignored);
     std::ofstream(m_root / relative, std::ios::binary) << bytes;
   }
   std::string Read(const std::filesystem::path& relative) const {

@@ -1,16 +1,15 @@
 #include "host/afx/AtomicFile.h"
 
 #include <csignal>
-#include <cstdlib>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include "host/afx/Paths.h"
 #include "tests/host/afx/TemporaryFolder.h"
+#include "tests/support/OrdinaryUser.h"
 
 namespace {
 
@@ -40,22 +39,6 @@ class FileSizeLimit {
  private:
   rlimit m_before{};
   void (*m_handler)(int);
-};
-
-// While it lives a test that runs as root works with the rights of the user "nobody".
-class OrdinaryUser {
- public:
-  OrdinaryUser() : m_wasRoot(::geteuid() == 0), m_isOne(!m_wasRoot || ::seteuid(65534) == 0) {}
-  ~OrdinaryUser() {
-    if (m_wasRoot && ::seteuid(0) != 0) std::abort();
-  }
-  OrdinaryUser(const OrdinaryUser&) = delete;
-  OrdinaryUser& operator=(const OrdinaryUser&) = delete;
-  bool IsOne() const { return m_isOne; }
-
- private:
-  bool m_wasRoot;
-  bool m_isOne;
 };
 
 TEST(WriteFileAtomically, CreatesTheFileAndLeavesNothingElse) {

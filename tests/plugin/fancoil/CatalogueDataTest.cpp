@@ -1,6 +1,6 @@
 #include "host/afx/MessageLog.h"
 #include "tests/plugin/fancoil/CatalogueFixture.h"
-#include "tests/plugin/fancoil/FullDisk.h"
+#include "tests/support/FullDisk.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "plugin/fancoil/ConnectionFields.h"
-#include "tests/plugin/fancoil/FullDisk.h"
 #include "tests/plugin/fancoil/WaterFixture.h"
+#include "tests/support/FullDisk.h"
 
 namespace {
 

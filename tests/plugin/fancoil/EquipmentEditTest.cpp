@@ -1,5 +1,5 @@
 #include "tests/plugin/fancoil/CatalogueFixture.h"
-#include "tests/plugin/fancoil/FullDisk.h"
+#include "tests/support/FullDisk.h"
 
 namespace {
 

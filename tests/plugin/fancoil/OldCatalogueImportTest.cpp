@@ -2,8 +2,8 @@
 
 #include "plugin/fancoil/OldCatalogueFields.h"
 #include "tests/plugin/fancoil/CatalogueFixture.h"
-#include "tests/plugin/fancoil/FullDisk.h"
 #include "tests/plugin/fancoil/OldCatalogue.h"
+#include "tests/support/FullDisk.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 #include "host/afx/Numbers.h"
 #include "plugin/base/NumberText.h"
 #include "plugin/radiators/CorrectionTables.h"
-#include "tests/plugin/radiators/ShippedTable.h"
+#include "tests/support/ShippedTable.h"
 #include "tests/support/TempInstall.h"
 
 namespace {

@@ -2,7 +2,7 @@
 #include <cmath>
 
 #include "tests/plugin/radiators/RadiatorCatalogueFixture.h"
-#include "tests/plugin/radiators/ShippedTable.h"
+#include "tests/support/ShippedTable.h"
 
 namespace {
 
