@@ -1,51 +1,34 @@
 #include "plugin/pipes/CZPPipeMaterialManager.h"
 
 #include "plugin/base/SingletonForm.h"
+#include "plugin/pipes/OwnedElements.h"
 
 CZPPipeMaterialManager::CZPPipeMaterialManager() {
   ReadData();
 }
 
 CZPPipeMaterialManager::~CZPPipeMaterialManager() {
-  for (CZPPipeMaterial* material : m_arrMaterials) delete material;
-  m_arrMaterials.SetSize(0);
+  pipes::DestroyElements(m_arrMaterials);
 }
 
 ZP_IMPLEMENT_SINGLETON(CZPPipeMaterialManager)
 
 CZPPipeMaterial* CZPPipeMaterialManager::GetInitialPipeMaterial() const {
-  for (CZPPipeMaterial* material : m_arrMaterials)
-    if (material) return material;
-  return nullptr;
+  return pipes::FirstElement(m_arrMaterials);
 }
 
 CZPPipeMaterial* CZPPipeMaterialManager::GetPipeMaterial(const CString& name) const {
-  for (CZPPipeMaterial* material : m_arrMaterials)
-    if (material && material->m_strName == name) return material;
-  return nullptr;
+  return pipes::FindNamed(m_arrMaterials, name);
 }
 
 void CZPPipeMaterialManager::GetAllPipeMaterialName(CStringArray& out) const {
-  out.RemoveAll();
-  for (const CZPPipeMaterial* material : m_arrMaterials)
-    if (material) out.Add(material->m_strName);
+  pipes::NamesOf(m_arrMaterials, out);
 }
 
 bool CZPPipeMaterialManager::Add(CZPPipeMaterial* material) {
-  if (!material) return false;
-  // The name test covers the pointer test too: the same material has the same name.
-  if (GetPipeMaterial(material->m_strName)) return false;
-  m_arrMaterials.Add(material);
-  return true;
+  return pipes::AddNamed(m_arrMaterials, material);
 }
 
 bool CZPPipeMaterialManager::Remove(CZPPipeMaterial* material) {
-  if (!material) return false;
-  for (int i = 0; i < m_arrMaterials.GetSize(); ++i) {
-    if (m_arrMaterials[i] != material) continue;
-    m_arrMaterials.RemoveAt(i);
-    delete material;
-    return true;
-  }
-  return false;
+  return pipes::RemoveElement(m_arrMaterials, material);
 }

@@ -3,19 +3,14 @@
 #include <memory>
 
 #include "plugin/base/CIDPEx.h"
-#include "plugin/base/Folders.h"
 #include "plugin/base/NumberText.h"
 #include "plugin/base/VersionMark.h"
 #include "plugin/pipes/CZPPipeMaterialManager.h"
+#include "plugin/pipes/FileFaults.h"
 #include "plugin/pipes/PipeFields.h"
+#include "plugin/pipes/PipeMaterialPath.h"
 
 namespace {
-
-constexpr const wchar_t* kVersion = L"1.0";
-
-CString FilePath() {
-  return ZP::GetSystemPath() + L"Data\\PipeMaterial.idp";
-}
 
 // A key that the file lacks leaves the field at its default.
 SZPPipeDNData ReadRow(CIDPEx* node) {
@@ -54,33 +49,40 @@ void WriteMaterial(const CZPPipeMaterial& material, CIDPEx& node) {
 } // namespace
 
 bool CZPPipeMaterialManager::ReadData() {
-  const CString path = FilePath();
+  const CString path = pipes::PipeMaterialPath();
   CIDPEx root;
   if (!root.Open(path)) return false;
   CString version;
   root.GetSubValue(L"Version", version);
-  if (!ZP::CheckVersionMark(path, version, {kVersion})) return false;
+  if (!ZP::CheckVersionMark(path, version, {pipes::kPipeMaterialVersion})) return false;
   CIDPEx* section = root.GetSubItem(kPipeSection);
   // A file that only the ducts have written so far has no pipe section: an empty catalogue, and no failure.
   if (!section) return true;
+  bool gap = false;
   for (int i = 0; i < section->SubKeyNames.GetSize(); ++i) {
-    CIDPEx* record = section->GetSubItem(ZP::itoa(i));
+    const CString index = ZP::itoa(i);
+    CIDPEx* record = section->GetSubItem(index);
+    if (!record) gap = true;
     if (!record || record->SubKeyNames.IsEmpty()) continue;
     const CString name = record->SubKeyNames[0];
     CIDPEx* node = record->GetSubItem(name);
     CIDPEx* table = node->GetSubItem(kPipeTable);
-    if (!table) continue;
+    if (!table) {
+      pipes::LogUnread(path, CString(kPipeSection) + L"\\" + index + L"\\" + name, L"缺少管径数据");
+      continue;
+    }
     // Names may repeat in a file: all are taken.
     m_arrMaterials.Add(ReadMaterial(name, *node, *table).release());
   }
+  if (gap) pipes::LogUnread(path, kPipeSection, L"编号不连续，有的项");
   return true;
 }
 
 bool CZPPipeMaterialManager::SaveData() {
-  const CString path = FilePath();
+  const CString path = pipes::PipeMaterialPath();
   CIDPEx root;
   root.Open(path);
-  root.SetSubValue(L"Version", kVersion);
+  root.SetSubValue(L"Version", pipes::kPipeMaterialVersion);
   root.SetSubValue(kPipeSection, L"");
   CIDPEx* section = root.GetSubItem(kPipeSection);
   if (!section) return false;

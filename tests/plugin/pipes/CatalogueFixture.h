@@ -22,7 +22,7 @@ class CatalogueFixture : public testing::Test {
     Empty();
     return catalogue.ReadData();
   }
-  CZPPipeMaterial* AddNamed(const wchar_t* name) {
+  CZPPipeMaterial* AddNamed(const CString& name) {
     auto* material = new CZPPipeMaterial;
     material->SetName(name);
     EXPECT_TRUE(catalogue.Add(material));

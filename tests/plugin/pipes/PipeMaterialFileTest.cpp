@@ -1,5 +1,6 @@
 #include "host/afx/MessageLog.h"
 #include "plugin/pipes/PipeFields.h"
+#include "tests/plugin/pipes/AwkwardNames.h"
 #include "tests/plugin/pipes/CatalogueFixture.h"
 
 namespace {
@@ -134,6 +135,31 @@ TEST_F(PipeFile, SkipsRecordsWithoutAMaterialOrWithoutATable) {
   EXPECT_TRUE(Reload());
   ASSERT_EQ(catalogue.m_arrMaterials.GetSize(), 1);
   EXPECT_EQ(catalogue.m_arrMaterials[0]->GetName(), L"丙");
+}
+
+TEST_F(PipeFile, KeepsACopyBeforeItLosesARecordThatCouldNotBeRead) {
+  for (const char* record :
+       {R"("0":[0,{"无表":["",{"前缀字符":"De"}]}])", R"("7":[7,{"甲":["",{"管径数据":""}]}])"}) {
+    const std::string text = std::string(R"(["",{"Version":"1.0","管材管径方案":["",{)") + record + "}]}]";
+    install.Write(kFile, text);
+    afx::ClearLoggedMessages();
+    EXPECT_TRUE(Reload());
+    EXPECT_EQ(catalogue.m_arrMaterials.GetSize(), 0);
+    EXPECT_EQ(afx::LoggedMessages().size(), 1u);
+    ASSERT_TRUE(catalogue.SaveData());
+    EXPECT_EQ(install.Read(std::string(kFile) + ".rescued-1"), text);
+    std::filesystem::remove(install.Root() / (std::string(kFile) + ".rescued-1"));
+  }
+}
+
+TEST_F(PipeFile, KeepsNamesOfAnyCharacters) {
+  const auto names = AwkwardNames();
+  for (const CString& name : names) AddNamed(name);
+  ASSERT_TRUE(catalogue.SaveData());
+  ASSERT_TRUE(Reload());
+  ASSERT_EQ(catalogue.m_arrMaterials.GetSize(), static_cast<int>(names.size()));
+  for (std::size_t i = 0; i < names.size(); ++i)
+    EXPECT_EQ(catalogue.m_arrMaterials[static_cast<int>(i)]->GetName(), names[i]) << i;
 }
 
 TEST_F(PipeFile, LeavesFieldsThatItLacksAtTheirDefaults) {
