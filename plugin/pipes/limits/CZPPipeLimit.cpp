@@ -1,0 +1,3 @@
+#include "plugin/pipes/limits/CZPPipeLimit.h"
+
+CZPPipeLimit::~CZPPipeLimit() = default;
