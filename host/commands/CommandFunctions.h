@@ -4,6 +4,7 @@
 namespace commands {
 
 void Appload();
+void Arc();
 void Circle();
 void Clayer();
 void Close();
@@ -13,19 +14,24 @@ void Id();
 void Layer();
 void Line();
 void List();
+void Move();
 void New();
 void Open();
+void Pline();
 void Point();
 void Quit();
 void Recover();
 void Redo();
 void Regen();
+void Rotate();
 void Save();
 void SaveAs();
 void Script();
 void Select();
 void SetVar();
+void Text();
 void U();
 void Undo();
+void Zoom();
 
 } // namespace commands

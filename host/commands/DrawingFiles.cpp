@@ -10,6 +10,7 @@
 #include "host/ed/EdSession.h"
 #include "host/ed/EntitySearch.h"
 #include "host/ed/SystemVariables.h"
+#include "host/ed/ViewState.h"
 #include "host/ed/acutPrintf.h"
 
 #include <filesystem>
@@ -64,6 +65,7 @@ bool mayReplace(const CString& path) {
 }
 
 bool write(AcApDocument& document, const CString& path) {
+  ed::FileView(document);
   const auto report = dxf::WriteDrawing(*document.database(), path);
   if (!report.ok) {
     EdSession::instance().refuse(report.error, L"可写的文件夹和文件名；原文件未改动");

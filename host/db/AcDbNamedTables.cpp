@@ -10,8 +10,6 @@ ACRX_DXF_DEFINE_MEMBERS(AcDbViewTableRecord, AcDbSymbolTableRecord, "VIEW")
 ACRX_DXF_DEFINE_MEMBERS(AcDbViewTable, AcDbSymbolTable, "")
 ACRX_DXF_DEFINE_MEMBERS(AcDbUCSTableRecord, AcDbSymbolTableRecord, "UCS")
 ACRX_DXF_DEFINE_MEMBERS(AcDbUCSTable, AcDbSymbolTable, "")
-ACRX_DXF_DEFINE_MEMBERS(AcDbViewportTableRecord, AcDbSymbolTableRecord, "VPORT")
-ACRX_DXF_DEFINE_MEMBERS(AcDbViewportTable, AcDbSymbolTable, "")
 
 void AcDbRegAppTableRecord::dxfOutFields(DxfRecordEditor& editor) const {
   dxfOutEntry(editor, "APPID", "AcDbRegAppTableRecord");

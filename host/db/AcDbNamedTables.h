@@ -1,5 +1,5 @@
-// The symbol tables of which the host needs the names only: registered applications, dimension styles, views,
-// coordinate systems and viewports. Everything else of their records is kept as it came.
+// The symbol tables of which the host needs the names only: registered applications, dimension styles, views
+// and coordinate systems. Everything else of their records is kept as it came.
 #pragma once
 
 #include "host/db/AcDbSymbolTable.h"
@@ -26,12 +26,7 @@ class AcDbUCSTableRecord : public AcDbSymbolTableRecord {
   ACRX_DECLARE_MEMBERS(AcDbUCSTableRecord);
 };
 
-class AcDbViewportTableRecord : public AcDbSymbolTableRecord {
-  ACRX_DECLARE_MEMBERS(AcDbViewportTableRecord);
-};
-
 ZP_SYMBOL_TABLE(AcDbRegApp);
 ZP_SYMBOL_TABLE(AcDbDimStyle);
 ZP_SYMBOL_TABLE(AcDbView);
 ZP_SYMBOL_TABLE(AcDbUCS);
-ZP_SYMBOL_TABLE(AcDbViewport);

@@ -39,6 +39,10 @@ Acad::ErrorStatus AcDbText::setHeight(double height) {
   return assign(m_height, height, height > 0 && std::isfinite(height));
 }
 
+Acad::ErrorStatus AcDbText::setWidthFactor(double factor) {
+  return assign(m_widthFactor, factor, factor > 0 && std::isfinite(factor));
+}
+
 Acad::ErrorStatus AcDbText::setRotation(double angle) {
   return assign(m_rotation, angle, std::isfinite(angle));
 }

@@ -18,6 +18,7 @@ class AcDbText : public AcDbEntity {
   double rotation() const { return m_rotation; } // radians
   Acad::ErrorStatus setRotation(double angle);
   double widthFactor() const { return m_widthFactor; }
+  Acad::ErrorStatus setWidthFactor(double factor); // above 0, eInvalidInput otherwise
   AcDbObjectId textStyle() const { return m_style; }
   Acad::ErrorStatus setTextStyle(const AcDbObjectId& style);
   void worldDraw(AcGiWorldDraw& draw) const override;

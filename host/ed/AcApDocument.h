@@ -5,6 +5,7 @@
 #include "host/db/AcDbDatabase.h"
 #include "host/db/AcRxObject.h"
 #include "host/ed/AcApDocLockMode.h"
+#include "host/ed/EdView.h"
 #include "host/ge/AcGePoint3d.h"
 
 #include <memory>
@@ -40,6 +41,7 @@ class AcApDocument : public AcRxObject {
     AcGePoint3d lastPoint;
     std::vector<AcDbObjectId> previousSelection;
     std::vector<AcDbObjectId> pickFirst;
+    std::vector<EdView> views; // those that were shown, the last one now; empty until one is asked for
   };
   EditState& edit() { return m_edit; }
   const EditState& edit() const { return m_edit; }

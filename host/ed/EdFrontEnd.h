@@ -47,6 +47,10 @@ class EdFrontEnd {
 
   // The document's picture is to be drawn anew.
   virtual void regenerate(AcApDocument&) {}
+  // Another part of the document is to be shown, see ed::CurrentView.
+  virtual void viewChanged(AcApDocument&) {}
+  // Width over height of the drawing view; nothing where there is none.
+  virtual std::optional<double> viewAspect() { return std::nullopt; }
   // What is shown over the drawing (EdSession::transients) is to be drawn anew.
   virtual void transientsChanged() {}
   // Null where there are no windows.

@@ -8,7 +8,9 @@
 #include "host/ed/EdSession.h"
 #include "host/ed/EntitySearch.h"
 
+#include <cmath>
 #include <functional>
+#include <numbers>
 
 namespace ed {
 namespace {
@@ -167,6 +169,23 @@ Answer AskDistance(const Question& question) {
                  return L"“" + Excerpt(line) + L"”不是距离。";
                }
                return signProblem(into.real, question.flags);
+             });
+}
+
+Answer AskAngle(const Question& question) {
+  const auto from = lastPoint(question);
+  return ask(question, Wants::distance, L"角度（度）或第二点",
+             [&](const CString& line, Answer& into) -> std::optional<CString> {
+               if (const auto degrees = ParseReal(line)) {
+                 into.real = *degrees * std::numbers::pi / 180;
+               } else if (const auto point = ParsePoint(line, from)) {
+                 into.point = *point;
+                 into.isPoint = true;
+                 into.real = std::atan2(point->y - from.y, point->x - from.x);
+               } else {
+                 return L"“" + Excerpt(line) + L"”不是角度。";
+               }
+               return std::nullopt;
              });
 }
 

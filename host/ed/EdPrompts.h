@@ -52,6 +52,9 @@ Answer AskReal(const Question& question);
 Answer AskInteger(const Question& question);
 // A number, or the distance of a point from the base.
 Answer AskDistance(const Question& question);
+// An angle in degrees, or the direction of a point from the base; real is in radians, anticlockwise from the
+// x axis, as it was typed, not brought into one turn.
+Answer AskAngle(const Question& question);
 // The whole line, blanks included when they may be part of it; an empty line gives status none.
 Answer AskText(const Question& question, bool withBlanks = true);
 Answer AskKeyword(const Question& question);

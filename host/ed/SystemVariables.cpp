@@ -7,6 +7,7 @@
 #include "host/db/DxfText.h"
 #include "host/ed/AcApDocManager.h"
 #include "host/ed/EdSession.h"
+#include "host/ed/ViewState.h"
 
 #include <algorithm>
 #include <cmath>
@@ -94,6 +95,8 @@ constexpr Row kRows[] = {
     {L"USERR3", Type::real, Place::header, 40, -kAny, kAny, 0, L"", false, L"用户实数 3"},
     {L"USERR4", Type::real, Place::header, 40, -kAny, kAny, 0, L"", false, L"用户实数 4"},
     {L"USERR5", Type::real, Place::header, 40, -kAny, kAny, 0, L"", false, L"用户实数 5"},
+    {L"VIEWCTR", Type::point, Place::computed, 0, 0, 0, 0, L"", true, L"视图中心"},
+    {L"VIEWSIZE", Type::real, Place::computed, 0, 0, 0, 1, L"", true, L"视图高度"},
     {L"WORLDUCS", Type::integer, Place::session, 0, 0, 1, 1, L"", true, L"坐标系为世界坐标系"},
 };
 
@@ -194,6 +197,11 @@ Value compute(const Row& row, const AcApDocument* document) {
   if (name == L"DWGPREFIX") return folderOf(document->fileName());
   if (name == L"DWGTITLED") return document->isNamed() ? 1L : 0L;
   if (name == L"LASTPOINT") return document->edit().lastPoint;
+  if (name == L"VIEWCTR" || name == L"VIEWSIZE") {
+    const auto view = ed::CurrentView(*document);
+    if (name == L"VIEWSIZE") return view.height;
+    return AcGePoint3d(view.centre.x, view.centre.y, 0);
+  }
   return startValue(row);
 }
 

@@ -4,6 +4,8 @@
 #include "host/ed/EdSession.h"
 
 #include <algorithm>
+#include <cmath>
+#include <numbers>
 
 namespace {
 
@@ -93,6 +95,16 @@ int acedGetDist(const ads_real* base, const wchar_t* prompt, ads_real* result) {
     answer = ed::AskDistance(q);
   }
   if (answer.hasValue() && result) *result = answer.real;
+  return resultOf(answer);
+}
+
+int acedGetAngle(const ads_real* base, const wchar_t* prompt, ads_real* result) {
+  const auto answer = ed::AskAngle(question(prompt, L"输入角度:", base));
+  constexpr double turn = 2 * std::numbers::pi;
+  if (answer.hasValue() && result) {
+    const double rest = std::fmod(answer.real, turn);
+    *result = rest < 0 ? rest + turn : rest;
+  }
   return resultOf(answer);
 }
 

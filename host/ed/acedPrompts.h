@@ -20,6 +20,8 @@ int acedGetReal(const wchar_t* prompt, ads_real* result);
 int acedGetInt(const wchar_t* prompt, int* result);
 // A length: a number, or the distance of a point from the base or from a point asked for first.
 int acedGetDist(const ads_real* base, const wchar_t* prompt, ads_real* result);
+// An angle in radians, 0 to below 2 pi: a number in degrees, or the direction of a point from the base.
+int acedGetAngle(const ads_real* base, const wchar_t* prompt, ads_real* result);
 // An empty line gives an empty text and RTNORM. withBlanks: a blank doesn't end the text.
 int acedGetString(int withBlanks, const wchar_t* prompt, wchar_t* result, std::size_t size);
 int acedGetString(int withBlanks, const wchar_t* prompt, CString& result);
