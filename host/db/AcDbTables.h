@@ -4,5 +4,5 @@
 #include "host/db/AcDbLayerTable.h"
 #include "host/db/AcDbLinetypeTable.h"
 #include "host/db/AcDbNamedTables.h"
-#include "host/db/AcDbViewportTable.h"
 #include "host/db/AcDbTextStyleTable.h"
+#include "host/db/AcDbViewportTable.h"
