@@ -103,6 +103,7 @@ class AcEdJig : public AcRxObject {
   DragStatus acquireLine(Quantity quantity, const AcGePoint3d& from, Acquired& result);
   void refuse(const CString& problem, const wchar_t* expected);
   DragStatus sampleAndUpdate();
+  static AcGePoint3d lastPoint(); // of the working drawing
 
   CString m_prompt;
   CString m_keywordList;
