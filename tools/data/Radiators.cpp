@@ -17,16 +17,10 @@ double NumberOrUnknown(const Table& table, int row, const char* column) {
   return table.Text(row, column).IsEmpty() ? 0.0 : table.Number(row, column);
 }
 
-double Positive(const Table& table, int row, const char* column) {
-  const double value = table.Number(row, column);
-  if (value <= 0) table.Fail(row, std::string(column) + ": not above 0");
-  return value;
-}
-
 // A K value that the source prints must agree within 1 %, which its rounding allows.
 void CheckAgainstPrintedCoefficient(const Table& table, int row, double coefficient) {
   if (table.Text(row, "k_pub").IsEmpty()) return;
-  const double printed = Positive(table, row, "k_pub");
+  const double printed = table.Positive(row, "k_pub");
   if (std::abs(coefficient - printed) > 0.01 * printed)
     table.Fail(row, "k_pub: not what the formula gives at 64.5");
 }
@@ -38,17 +32,17 @@ void TakeOutput(const Table& table, int row, CZPRadiator& radiator) {
   radiator.m_nFormula = table.Integer(row, "formula");
   switch (radiator.m_nFormula) {
   case 0:
-    radiator.m_dA = Positive(table, row, "a");
-    radiator.m_dB = Positive(table, row, "b");
+    radiator.m_dA = table.Positive(row, "a");
+    radiator.m_dB = table.Positive(row, "b");
     return;
   case 1:
-    radiator.m_dC = Positive(table, row, "a");
-    radiator.m_dD = Positive(table, row, "b");
-    Positive(table, row, "f_m2");
+    radiator.m_dC = table.Positive(row, "a");
+    radiator.m_dD = table.Positive(row, "b");
+    table.Positive(row, "f_m2");
     CheckAgainstPrintedCoefficient(table, row, radiator.m_dC * std::pow(kStandardDifference, radiator.m_dD));
     return;
   case 2:
-    Positive(table, row, "q_w");
+    table.Positive(row, "q_w");
     if (radiator.m_dF > 0)
       CheckAgainstPrintedCoefficient(table, row, radiator.m_dQs / radiator.m_dF / kStandardDifference);
     return;

@@ -77,3 +77,15 @@ int Table::Integer(int row, const char* column) const {
     Fail(row, std::string(column) + ": no whole number");
   return static_cast<int>(value);
 }
+
+double Table::Positive(int row, const char* column) const {
+  const double value = Number(row, column);
+  if (value <= 0) Fail(row, std::string(column) + ": not above 0");
+  return value;
+}
+
+void Table::CheckSource(int row) const {
+  if (Text(row, "source").IsEmpty()) Fail(row, "source: none");
+  const CString& confidence = Text(row, "conf");
+  if (confidence != L"H" && confidence != L"M" && confidence != L"L") Fail(row, "conf: not H, M or L");
+}

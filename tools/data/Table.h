@@ -1,6 +1,5 @@
 // A table as text: fields between tabs, one row a line, the column names in the first row. Lines that begin
-// with
-// "#" tell where the figures come from and are passed over.
+// with "#" tell where the figures come from and are passed over.
 #pragma once
 
 #include <stdexcept>
@@ -25,6 +24,9 @@ class Table {
   const CString& Text(int row, const char* column) const;
   double Number(int row, const char* column) const;
   int Integer(int row, const char* column) const;
+  double Positive(int row, const char* column) const; // refuses what is not above 0
+  // Refuses a row that doesn't tell where it comes from, or how far it is to be trusted (H, M or L).
+  void CheckSource(int row) const;
 
   // Throws a TableError that names the row.
   [[noreturn]] void Fail(int row, const std::string& reason) const;

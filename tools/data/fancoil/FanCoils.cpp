@@ -7,12 +7,6 @@
 
 namespace {
 
-double Positive(const Table& table, int row, const char* column) {
-  const double value = table.Number(row, column);
-  if (value <= 0) table.Fail(row, std::string(column) + ": not above 0");
-  return value;
-}
-
 // The table has form and mounting in one word: 卧式暗装.
 void TakeForm(const Table& table, int row, SKTFCUEquipmentData& data) {
   const CString form = table.Text(row, "form");
@@ -26,22 +20,22 @@ void TakeForm(const Table& table, int row, SKTFCUEquipmentData& data) {
 SKTFCUEquipmentData RecordOf(const Table& table, int row) {
   SKTFCUEquipmentData data;
   TakeForm(table, row, data);
-  data.dbAirFlowH = Positive(table, row, "air_high_m3h");
-  data.dbAirFlowM = Positive(table, row, "air_mid_m3h");
-  data.dbAirFlowL = Positive(table, row, "air_low_m3h");
+  data.dbAirFlowH = table.Positive(row, "air_high_m3h");
+  data.dbAirFlowM = table.Positive(row, "air_mid_m3h");
+  data.dbAirFlowL = table.Positive(row, "air_low_m3h");
   if (data.dbAirFlowH < data.dbAirFlowM || data.dbAirFlowM < data.dbAirFlowL)
     table.Fail(row, "air flows don't fall from speed to speed");
-  data.dbCTHCapacity = Positive(table, row, "cool_kw");
-  data.dbCSHCapacity = Positive(table, row, "sensible_kw");
+  data.dbCTHCapacity = table.Positive(row, "cool_kw");
+  data.dbCSHCapacity = table.Positive(row, "sensible_kw");
   if (data.dbCSHCapacity > data.dbCTHCapacity) table.Fail(row, "more sensible cooling than cooling");
-  data.dbHCapacity = Positive(table, row, "heat_kw");
-  data.dbWaterFlow = Positive(table, row, "water_lps");
-  data.dbWPD = Positive(table, row, "dp_kpa");
-  data.dbPower = Positive(table, row, "power_w");
-  data.dbNoiseLevel = Positive(table, row, "noise_dba");
-  data.dbLength = Positive(table, row, "len_mm");
-  data.dbWidth = Positive(table, row, "width_mm");
-  data.dbHeight = Positive(table, row, "height_mm");
+  data.dbHCapacity = table.Positive(row, "heat_kw");
+  data.dbWaterFlow = table.Positive(row, "water_lps");
+  data.dbWPD = table.Positive(row, "dp_kpa");
+  data.dbPower = table.Positive(row, "power_w");
+  data.dbNoiseLevel = table.Positive(row, "noise_dba");
+  data.dbLength = table.Positive(row, "len_mm");
+  data.dbWidth = table.Positive(row, "width_mm");
+  data.dbHeight = table.Positive(row, "height_mm");
   return data;
 }
 
