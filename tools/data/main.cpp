@@ -6,24 +6,29 @@
 #include <string>
 
 #include "host/afx/Paths.h"
+#include "tools/data/Ducts.h"
 #include "tools/data/LayerScheme.h"
 #include "tools/data/PipeMaterials.h"
 #include "tools/data/Radiators.h"
 #include "tools/data/Table.h"
+#include "tools/data/VelocityLimits.h"
 #include "tools/data/fancoil/FanCoils.h"
 #include "tools/data/fancoil/WaterSystems.h"
 
 namespace {
 
-// The catalogues load what stands there before they are filled, and the pipes keep sections that are not
-// theirs; the result shall depend on the tables alone.
-constexpr const char* kFiles[] = {"Data/PipeMaterial.idp", "Data/LayerManager/默认方案.idp",
-                                  "HeatingData/Srq.idp", "Data/FCUData.idp", "Data/KTSLDatabase.xml"};
+// The catalogues load what stands there before they are filled, and pipes and ducts keep each other's
+// sections; the result shall depend on the tables alone.
+constexpr const char* kFiles[] = {
+    "Data/PipeMaterial.idp", "Data/PipeLimit.idp", "Data/LayerManager/默认方案.idp",
+    "HeatingData/Srq.idp",   "Data/FCUData.idp",   "Data/KTSLDatabase.xml"};
 
 void Write(const std::string& tables, const std::filesystem::path& output) {
   for (const char* file : kFiles) std::filesystem::remove(output / file);
   afx::SetInstallRoot(CString::FromUtf8(output.string()));
   WritePipeMaterials(tables);
+  WriteDucts(tables);
+  WriteVelocityLimits(tables);
   WriteLayerScheme(tables);
   WriteRadiators(tables);
   WriteFanCoils(tables);
