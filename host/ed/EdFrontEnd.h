@@ -53,6 +53,9 @@ class EdFrontEnd {
   virtual std::optional<double> viewAspect() { return std::nullopt; }
   // What is shown over the drawing (EdSession::transients) is to be drawn anew.
   virtual void transientsChanged() {}
+  // Takes a line at the command prompt that is for the front end's own windows and no command. Whether it
+  // did.
+  virtual bool takeLine(const CString&) { return false; }
   // Null where there are no windows.
   virtual CWnd* mainWindow() { return nullptr; }
   virtual CWnd* drawingView() { return nullptr; }

@@ -42,16 +42,19 @@ void EdInput::clear() {
 }
 
 std::optional<EdInput::Fetched> EdInput::fetch(const CString& prompt) {
-  while (!m_sources.empty()) {
-    auto& top = m_sources.back();
-    if (top.unread) return std::exchange(top.unread, std::nullopt);
+  for (std::size_t at = m_sources.size(); at-- > 0;) {
+    auto& source = m_sources[at];
+    if (source.passedOver > 0) continue;
+    m_fetchedFrom = at;
+    if (source.unread) return std::exchange(source.unread, std::nullopt);
     bool tooLong = false;
-    if (auto text = top.lines->next(tooLong))
-      return Fetched{{std::move(*text), top.lines->name(), top.lines->isScript() ? ++top.number : 0, false},
-                     top.lines->echo(),
-                     tooLong};
-    if (!top.lines->fallsThrough()) return std::nullopt;
-    m_sources.pop_back();
+    if (auto text = source.lines->next(tooLong))
+      return Fetched{
+          {std::move(*text), source.lines->name(), source.lines->isScript() ? ++source.number : 0, false},
+          source.lines->echo(),
+          tooLong};
+    if (!source.lines->fallsThrough()) return std::nullopt;
+    if (at + 1 == m_sources.size()) m_sources.pop_back();
   }
   if (m_typedUnread) return std::exchange(m_typedUnread, std::nullopt);
   if (!m_frontEnd) return std::nullopt;
@@ -94,7 +97,17 @@ std::optional<EdLine> EdInput::readIf(const CString& prompt,
   auto fetched = fetchNoComment(prompt, false);
   if (!fetched) return std::nullopt;
   if (fits(fetched->line.text)) return take(prompt, *fetched);
-  auto& unread = fetched->line.typed ? m_typedUnread : m_sources.back().unread;
+  auto& unread = fetched->line.typed ? m_typedUnread : m_sources[m_fetchedFrom].unread;
   unread = std::move(fetched);
   return std::nullopt;
+}
+
+EdInput::UserOnly::UserOnly(EdInput& input) : m_input(input), m_depth(input.m_sources.size()) {
+  for (Source& source : input.m_sources)
+    if (!source.lines->isScript() && !source.lines->fallsThrough()) ++source.passedOver;
+}
+
+EdInput::UserOnly::~UserOnly() {
+  for (std::size_t i = 0; i < std::min(m_depth, m_input.m_sources.size()); ++i)
+    if (m_input.m_sources[i].passedOver > 0) --m_input.m_sources[i].passedOver;
 }

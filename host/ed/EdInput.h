@@ -48,6 +48,20 @@ class EdInput {
 
   const EdLine& last() const { return m_last; }
 
+  // While this lives, lines that programs gave as answers to prompts are passed over: a dialog is for the
+  // user, or the script that stands for him.
+  class UserOnly {
+   public:
+    explicit UserOnly(EdInput& input);
+    ~UserOnly();
+    UserOnly(const UserOnly&) = delete;
+    UserOnly& operator=(const UserOnly&) = delete;
+
+   private:
+    EdInput& m_input;
+    std::size_t m_depth;
+  };
+
  private:
   struct Fetched {
     EdLine line;
@@ -58,6 +72,7 @@ class EdInput {
     std::unique_ptr<EdLineSource> lines;
     int number = 0;
     std::optional<Fetched> unread;
+    int passedOver = 0; // by how many UserOnly
   };
   std::optional<Fetched> fetch(const CString& prompt);
   std::optional<Fetched> fetchNoComment(const CString& prompt, bool freeText);
@@ -66,6 +81,7 @@ class EdInput {
   Refuser m_refuse;
   EdFrontEnd* m_frontEnd = nullptr;
   std::vector<Source> m_sources;
+  std::size_t m_fetchedFrom = 0; // of m_sources, for a line that was not typed
   int m_typedLines = 0;
   std::optional<Fetched> m_typedUnread;
   EdLine m_last;

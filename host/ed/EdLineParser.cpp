@@ -73,6 +73,11 @@ constexpr SelectionWord kSelectionWords[] = {
     {L"previous", L"p", SelectionLine::Kind::previous},
 };
 
+constexpr struct {
+  const wchar_t* english;
+  const wchar_t* caption;
+} kEnglishButtons[] = {{L"OK", L"确定"}, {L"Cancel", L"取消"}, {L"Yes", L"是"}, {L"No", L"否"}};
+
 } // namespace
 
 bool IsCancelLine(const CString& line) {
@@ -131,6 +136,8 @@ std::optional<CString> ParseAnswer(const CString& line) {
 }
 
 std::optional<std::size_t> FindButton(const std::vector<CString>& buttons, const CString& answer) {
+  for (const auto& row : kEnglishButtons)
+    if (sameText(answer, row.english)) return FindButton(buttons, row.caption);
   for (std::size_t i = 0; i < buttons.size(); ++i) {
     const CString& caption = buttons[i];
     const int open = caption.ReverseFind(L'(');

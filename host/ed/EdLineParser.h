@@ -30,7 +30,8 @@ std::optional<AcDbHandle> ParseHandle(const CString& line);
 
 // The answer to a message box: "answer BUTTON" gives BUTTON.
 std::optional<CString> ParseAnswer(const CString& line);
-// The button of an answer: by caption without its "(X)", whole caption, or the letter in the brackets.
+// The button of an answer: by caption without its "(X)", whole caption, the letter in the brackets, or OK,
+// Cancel, Yes or No.
 std::optional<std::size_t> FindButton(const std::vector<CString>& buttons, const CString& answer);
 
 struct SelectionLine {

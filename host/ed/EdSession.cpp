@@ -114,6 +114,7 @@ void EdSession::obey(const CString& line) {
     print(L"\n" + name + L"\n");
   }
   if (ed::IsCancelLine(line)) return;
+  if (m_frontEnd && m_frontEnd->takeLine(line)) return;
   runCommand(name);
 }
 
