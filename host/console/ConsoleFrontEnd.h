@@ -2,7 +2,8 @@
 // pipe is shown behind its prompt, so that the output reads like a session.
 #pragma once
 
-#include "host/ed/EdFrontEnd.h"
+#include "host/console/ConsoleDialogs.h"
+#include "host/ui/CFrameWnd.h"
 
 #include <iosfwd>
 
@@ -20,6 +21,10 @@ class ConsoleFrontEnd : public EdFrontEnd {
   // the default button is taken and the line left where it is.
   EdBoxResult messageBox(const EdMessageBox& box) override;
   void lineRefused(const EdRefusal& refusal) override;
+  bool takeLine(const CString& line) override { return m_dialogs.ObeyBarLine(line); }
+  CWnd* mainWindow() override { return &m_frame; }
+  CWnd* drawingView() override { return &m_view; }
+  ConsoleDialogs& dialogs() { return m_dialogs; }
   // Ends an open line and hands everything to the system.
   void finish();
 
@@ -31,4 +36,7 @@ class ConsoleFrontEnd : public EdFrontEnd {
   std::ostream& m_out;
   bool m_interactive;
   bool m_atLineStart = true;
+  ConsoleDialogs m_dialogs{*this};
+  CFrameWnd m_frame; // nobody sees them; they are what dialogs have as their parents
+  CWnd m_view;
 };

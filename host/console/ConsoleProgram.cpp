@@ -18,6 +18,7 @@ class SessionScope {
   explicit SessionScope(ConsoleFrontEnd& frontEnd) : m_frontEnd(frontEnd) {
     EdSession::instance().reset();
     EdSession::instance().setFrontEnd(&frontEnd);
+    UiFrontEnd::Set(&frontEnd.dialogs());
   }
   ~SessionScope() {
     acrxDynamicLinker->unloadAll();
@@ -26,6 +27,7 @@ class SessionScope {
     m_frontEnd.finish();
     EdSession::instance().reset();
     EdSession::instance().setFrontEnd(nullptr);
+    UiFrontEnd::Set(nullptr);
   }
   SessionScope(const SessionScope&) = delete;
   SessionScope& operator=(const SessionScope&) = delete;
