@@ -30,6 +30,7 @@ void Script();
 void Select();
 void SetVar();
 void Text();
+void TextStyle();
 void U();
 void Undo();
 void Zoom();

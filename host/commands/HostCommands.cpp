@@ -39,6 +39,7 @@ constexpr Row kRows[] = {
     {L"ERASE", L"E", kEdits, Erase, L"删除实体"},
     {L"LAYER", L"-LAYER", kDraws, Layer, L"图层：列表、新建、状态、颜色、线型、线宽"},
     {L"CLAYER", L"当前图层", kDraws, Clayer, L"设置当前图层"},
+    {L"DDSTYLE", L"文字样式", kDraws, TextStyle, L"文字样式编辑器"},
     {L"LIST", L"LI", kLooks, List, L"列出实体的特性"},
     {L"ID", L"坐标", kLooks, Id, L"显示点的坐标"},
     {L"SELECT", L"选择", kPicks, Select, L"选择实体，供下一命令使用"},
