@@ -7,6 +7,7 @@
 
 #include "host/ed/AcEdCommand.h"
 #include "host/ed/acutPrintf.h"
+#include "plugin/frame/DialogCommands.h"
 #include "plugin/layers/LayerService.h"
 
 namespace {
@@ -21,7 +22,6 @@ constexpr MissingCommand kMissing[] = {
     {L"KOR_GJGLQ", L"管材管径管理器"},
     {L"KOR_LSGLQ", L"管道流速管理器"},
     {L"KOR_FGGJGLQ", L"风管管材和管径管理器"},
-    {L"KOR_XTSZ", L"系统设置"},
     {L"KOR_TCGLQ", L"图层管理器"},
     {L"KOR_CADTCFZ", L"CAD当前图纸图层分组"},
     {L"KOR_CADTCKZ", L"当前CAD图纸图层管理"},
@@ -56,7 +56,7 @@ constexpr VkCmdTable kTable[] = {
     ZP_MISSING_COMMAND(L"KOR_GJGLQ"),
     ZP_MISSING_COMMAND(L"KOR_LSGLQ"),
     ZP_MISSING_COMMAND(L"KOR_FGGJGLQ"),
-    ZP_MISSING_COMMAND(L"KOR_XTSZ"),
+    {L"KOR_XTSZ", dialogs::SystemSettings, kFlags},
     ZP_MISSING_COMMAND(L"KOR_TCGLQ"),
     {L"KOR_SZDQTC", MakePickedLayerCurrent, kFlags},
     {L"KOR_GBTC", ZP::CloseSelectedLayer, kFlags},
