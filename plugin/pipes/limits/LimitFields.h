@@ -1,5 +1,5 @@
-// What a row of velocity limits holds in the parameter file: each key with its field, in the order of the
-// file. The defaults are those of the record's own members.
+// What a row of velocity limits holds in the parameter file: each key with its field and unit, in the order
+// of the file. The defaults are those of the record's own members.
 #pragma once
 
 #include "plugin/pipes/limits/CZPPipeLimit.h"

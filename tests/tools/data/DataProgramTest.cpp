@@ -57,14 +57,16 @@ TEST_F(DataProgram, WritesTheShippedCataloguesByteForByte) {
     const auto relative = fs::relative(entry.path(), folder.Root() / "out");
     EXPECT_EQ(Bytes(entry.path()), Bytes(kShipped / relative)) << relative << ": run the target \"data\"";
   }
-  EXPECT_EQ(files, 5);
+  EXPECT_EQ(files, 6);
 }
 
 TEST_F(DataProgram, GivesTheSameWhateverStoodThereBefore) {
   folder.Write("out/Data/PipeMaterial.idp", R"(["",{"Version":"1.0","别的":"x"}])");
+  folder.Write("out/Data/PipeLimit.idp", R"(["",{"Version":"1.0","水管界限方案":["",{"0":[0,{"7":0}]}]}])");
   folder.Write("out/Data/LayerManager/默认方案.idp", "damaged");
   ASSERT_EQ(RunOnCopies(), 0) << Said();
   EXPECT_EQ(folder.Read("out/Data/PipeMaterial.idp"), Bytes(kShipped / "Data/PipeMaterial.idp"));
+  EXPECT_EQ(folder.Read("out/Data/PipeLimit.idp"), Bytes(kShipped / "Data/PipeLimit.idp"));
   EXPECT_FALSE(folder.Has("out/Data/LayerManager/默认方案.idp.rescued-1"));
 }
 
@@ -98,6 +100,27 @@ INSTANTIATE_TEST_SUITE_P(
         Fault{"pipes.tsv", "GP\t镀锌钢管(普通)\tx\t0.5\tDN200\t200\t219\t6\t207\tx\tM", "two roughnesses"},
         Fault{"pipes.tsv", "GP\t镀锌钢管(普通)\tx\t0.2\tDe200\t200\t219\t6\t207\tx\tM", "nominal: not DN"},
         Fault{"pipes.tsv", "NEW\t新管材\tx\t0.2\tDN200\t200\t219\t6\t207\tx\tM", "no label for NEW"},
+        Fault{"duct_materials.tsv", "GS\t镀锌钢板\t0.15\tx\tM", "material twice"},
+        Fault{"duct_materials.tsv", "NEW\t新\t0\tx\tM", "roughness_mm: not above 0"},
+        Fault{"duct_materials.tsv", "NEW\t新\t0.1\t\tM", "source: none"},
+        Fault{"duct_materials.tsv", "NEW\t新\t0.1\tx\tX", "conf: not H, M or L"},
+        Fault{"duct_thickness.tsv", "GB 50243-2016\t微压、低压\t圆形\t4500\t5000\t2\t\tx\tM",
+              "bands don't follow"},
+        Fault{"duct_thickness.tsv", "GB 50243-2016\t微压、低压\t圆形\t4000\t4000\t2\t\tx\tM",
+              "bands don't follow"},
+        Fault{"duct_thickness.tsv", "GB 50243-2002\t高压\t圆形\t0\t1\t\t\t\tM", "source: none"},
+        Fault{"ducts.tsv", "rect\t统一规格\t500\t240\tx\tM", "no side of the series"},
+        Fault{"ducts.tsv", "rect\t统一规格\t250\t500\tx\tM", "not as 1:1 to 4:1"},
+        Fault{"ducts.tsv", "rect\t统一规格\t2000\t400\tx\tM", "not as 1:1 to 4:1"},
+        Fault{"ducts.tsv", "rect\t统一规格\t500\t250\tx\tM", "size twice"},
+        Fault{"ducts.tsv", "rect\t统一规格\t500\t\tx\tM", "b_mm: no number"},
+        Fault{"ducts.tsv", "round\t基本\t100\t\tx\tM", "size twice"},
+        Fault{"ducts.tsv", "round\t基本\t101\t5\tx\tM", "b_mm: a round size"},
+        Fault{"ducts.tsv", "oval\t基本\t101\t5\tx\tM", "kind: not"},
+        Fault{"velocity.tsv", "空调水-闭式\tDN400\t400\t1\t2\t100\t400\tx\tM", "dn: not above"},
+        Fault{"velocity.tsv", "空调水-闭式\tDN500\t450\t1\t2\t100\t400\tx\tM", "dn: not the nominal"},
+        Fault{"velocity.tsv", "空调水-开式\tDN500\t500\t2\t1\t100\t400\tx\tM", "v_max: not above"},
+        Fault{"velocity.tsv", "空调水-开式\tDN500\t500\t1\t2\t100\t\tx\tM", "r_max_pa_m: no number"},
         Fault{"layers.tsv", "公用\t标注\t公用标注\t另一层\t3\tDOT\t1\t0.18\tx\tx", "identifier twice"},
         Fault{"layers.tsv", "公用\t标注\t另一标识\t暖通-公用-标注\t3\tDOT\t1\t0.18\tx\tx", "layer twice"},
         Fault{"layers.tsv", "公用\t标注\t新\t新\t3.5\tDOT\t1\t0.18\tx\tx", "color: no whole number"},

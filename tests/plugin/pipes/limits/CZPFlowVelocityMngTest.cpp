@@ -100,6 +100,9 @@ TEST_F(VelocityLimits, OfNumbersBelowZeroAndBeyondMeasureHaveDistancesToo) {
   EXPECT_EQ(table.GetPipeLimit(L"-99", 1), negative);
   EXPECT_EQ(table.GetPipeLimit(L"1e999", 1), infinite); // both are beyond measure, so nothing lies between
   EXPECT_EQ(table.GetPipeLimit(L"-1e999", 1), negative);
+  std::swap(table.m_arrLimits[0], table.m_arrLimits[1]);
+  EXPECT_EQ(table.GetPipeLimit(L"1e999", 1), infinite);
+  EXPECT_EQ(table.GetPipeLimit(L"5", 1), negative);
 }
 
 TEST_F(VelocityLimits, OfAnEmptyTableAreNull) {
