@@ -9,6 +9,7 @@ void Circle();
 void Clayer();
 void Close();
 void Erase();
+void Export();
 void Help();
 void Id();
 void Layer();

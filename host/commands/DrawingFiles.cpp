@@ -49,21 +49,6 @@ CString withExtension(const CString& path) {
   return fs::path(afx::NativePath(path)).has_extension() ? path : path + L".dxf";
 }
 
-bool mayReplace(const CString& path) {
-  auto* frontEnd = EdSession::instance().frontEnd();
-  constexpr long replacesUnasked = 2; // as EXPERT has it
-  if (!exists(path) || !frontEnd || SystemVariables::integer(L"EXPERT") >= replacesUnasked) return true;
-  const auto box =
-      frontEnd->messageBox({L"zpcad", L"文件“" + path + L"”已存在。要替换吗？", {L"是(Y)", L"否(N)"}, 1});
-  if (box.button == 0) return true;
-  if (box.answered) {
-    acutPrintf(L"\n未保存。\n");
-    return false;
-  }
-  EdSession::instance().refuse(L"文件“" + path + L"”已存在，未保存。", L"另一个文件名，或在下一行 answer 是");
-  return false;
-}
-
 bool write(AcApDocument& document, const CString& path) {
   ed::FileView(document);
   const auto report = dxf::WriteDrawing(*document.database(), path);
@@ -78,6 +63,22 @@ bool write(AcApDocument& document, const CString& path) {
 }
 
 } // namespace
+
+bool MayReplace(const CString& path, const wchar_t* undone) {
+  auto* frontEnd = EdSession::instance().frontEnd();
+  constexpr long replacesUnasked = 2; // as EXPERT has it
+  if (!exists(path) || !frontEnd || SystemVariables::integer(L"EXPERT") >= replacesUnasked) return true;
+  const auto box =
+      frontEnd->messageBox({L"zpcad", L"文件“" + path + L"”已存在。要替换吗？", {L"是(Y)", L"否(N)"}, 1});
+  if (box.button == 0) return true;
+  if (box.answered) {
+    acutPrintf(L"\n%s。\n", undone);
+    return false;
+  }
+  EdSession::instance().refuse(L"文件“" + path + L"”已存在，" + undone + L"。",
+                               L"另一个文件名，或在下一行 answer 是");
+  return false;
+}
 
 bool OpenDrawing(const CString& path, bool recover) {
   auto& session = EdSession::instance();
@@ -127,7 +128,7 @@ bool SaveDrawingAs(AcApDocument& document) {
     EdSession::instance().refuse(L"文件“" + path + L"”是另一个打开着的图形，未保存。", L"另一个文件名");
     return false;
   }
-  if (!mayReplace(path) || !write(document, path)) return false;
+  if (!MayReplace(path, L"未保存") || !write(document, path)) return false;
   document.setFileName(path);
   acDocManager->titleChanged(document);
   return true;

@@ -16,4 +16,8 @@ bool SaveDrawing(AcApDocument& document);
 // Asks for a name where the document has none, and always when asked to.
 bool SaveDrawingAs(AcApDocument& document);
 
+// Whether a file may be written: asks where it exists already. False, with the user told that it was undone
+// ("未保存"), when it may not.
+bool MayReplace(const CString& path, const wchar_t* undone);
+
 } // namespace commands

@@ -26,6 +26,7 @@ constexpr Row kRows[] = {
     {L"RECOVER", L"修复", kSession, Recover, L"打开损坏的图形文件，尽量抢救"},
     {L"SAVE", L"QSAVE", kLooks, Save, L"保存图形"},
     {L"SAVEAS", L"另存为", kLooks, SaveAs, L"另存为其他文件"},
+    {L"EXPORT", L"输出", kLooks, Export, L"输出为 PDF、SVG 或 PNG 文件"},
     {L"CLOSE", L"关闭", kSession, Close, L"关闭当前图形"},
     {L"QUIT", L"EXIT", kSession, Quit, L"退出程序"},
     {L"LINE", L"L", kDraws, Line, L"画直线"},

@@ -9,7 +9,9 @@ HOST = {
     "host/ge": ["host/afx"],
     "host/db": ["host/afx", "host/ge"],
     "host/dxf": ["host/afx", "host/ge", "host/db"],
-    "host/ed": ["host/afx", "host/ge", "host/db", "host/dxf"],
+    "host/scene": ["host/afx", "host/ge", "host/db"],
+    "host/ed": ["host/afx", "host/ge", "host/db", "host/dxf", "host/scene"],
+    "host/plot": ["host/afx", "host/ge", "host/db", "host/scene"],
     "host/ui": ["host/afx"],
 }
 HOST_BELOW_5 = list(HOST)
@@ -53,6 +55,8 @@ LIBRARIES = [
     ("simdjson", re.compile(r"simdjson"), ["plugin/base/", "bench/"]),
     ("pugixml", re.compile(r"pugi"), ["plugin/base/", "bench/"]),
     ("CLI11", re.compile(r"CLI/"), ["apps/zpcad/"]),
+    ("cairo", re.compile(r"cairo[\w-]*\.h$|cairo/"), ["host/plot/"]),
+    ("pango", re.compile(r"pango/|fontconfig/"), ["host/plot/"]),
     ("Boost", re.compile(r"boost/"), ["host/db/", "host/ed/"]),
     ("GoogleTest", re.compile(r"g(test|mock)/"), ["tests/"]),
     ("Google Benchmark", re.compile(r"benchmark/"), ["bench/"]),

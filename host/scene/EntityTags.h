@@ -1,0 +1,55 @@
+// The tags of one entity as painters read them: common properties in front and extended data behind left out.
+#pragma once
+
+#include "host/afx/CString.h"
+#include "host/db/DxfRecord.h"
+#include "host/ge/AcGePoint3d.h"
+#include "host/ge/AcGeVector3d.h"
+
+#include <optional>
+#include <vector>
+
+namespace scene {
+
+class EntityTags {
+ public:
+  EntityTags() = default;
+  // Keeps the record's text alive.
+  explicit EntityTags(DxfRecord record);
+  EntityTags(EntityTags&&) = default;
+  EntityTags& operator=(EntityTags&&) = default;
+
+  DxfTags all() const { return m_all; } // the whole record
+  DxfTags own() const { return m_own; } // the entity's geometry
+  auto begin() const { return m_own.begin(); }
+  auto end() const { return m_own.end(); }
+
+  // The first tag of a code; numbers that are none, and missing ones, give the fallback.
+  const DxfTag* find(int code) const;
+  bool has(int code) const { return find(code) != nullptr; }
+  double real(int code, double fallback = 0) const;
+  long long integer(int code, long long fallback = 0) const;
+  double radians(int code, double fallbackDegrees = 0) const;
+  CString text(int code) const;
+  // The point of codes code, code + 10 and code + 20.
+  AcGePoint3d point(int code) const;
+  std::optional<AcGePoint3d> optionalPoint(int code) const;
+  // Group 210; the z axis where there is none or it is zero.
+  AcGeVector3d normal() const;
+  // All points of a code, in their order.
+  std::vector<AcGePoint3d> points(int code) const;
+  // The value of a code among the properties that all entities share (layer, true colour, ...).
+  const DxfTag* common(int code) const;
+
+ private:
+  DxfRecord m_record;
+  std::vector<DxfTag> m_all;
+  DxfTags m_own;
+};
+
+double RealOf(const DxfTag& tag, double fallback = 0);
+long long IntegerOf(const DxfTag& tag, long long fallback = 0);
+// Sets the coordinate that the tag is of a point of code; false when it is none.
+bool ReadCoordinate(const DxfTag& tag, int code, AcGePoint3d& point);
+
+} // namespace scene

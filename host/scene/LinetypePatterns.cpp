@@ -1,0 +1,28 @@
+#include "host/scene/LinetypePatterns.h"
+
+#include "host/db/AcDbLinetypeTable.h"
+
+#include <cmath>
+
+namespace scene {
+
+std::int32_t LinetypePatterns::find(const AcDbObjectId& linetype, double scale, bool bySegment,
+                                    std::vector<Pattern>& patterns) {
+  if (linetype.isNull()) return Primitive::kNone;
+  const auto key = std::make_tuple(static_cast<const void*>(linetype.stub()), scale, bySegment);
+  if (const auto found = m_known.find(key); found != m_known.end()) return found->second;
+  std::int32_t index = Primitive::kNone;
+  const auto* record = AcDbLinetypeTableRecord::cast(linetype.object());
+  const double length = record ? record->patternLength() * scale : 0;
+  if (record && record->dashes().size() > 1 && std::isfinite(length) && length > 0) {
+    Pattern pattern;
+    pattern.bySegment = bySegment;
+    for (const auto& dash : record->dashes()) pattern.dashes.push_back(dash.length * scale);
+    index = static_cast<std::int32_t>(patterns.size());
+    patterns.push_back(std::move(pattern));
+  }
+  m_known.emplace(key, index);
+  return index;
+}
+
+} // namespace scene

@@ -1,0 +1,263 @@
+#include "host/scene/SceneBuilder.h"
+
+#include "host/db/AcDbBlockTable.h"
+#include "host/db/AcDbDatabase.h"
+#include "host/db/AcDbEntity.h"
+#include "host/scene/Painter.h"
+#include "host/scene/Pen.h"
+#include "host/scene/Transparency.h"
+#include "host/scene/WorldDrawPen.h"
+#include "host/scene/text/TextMetrics.h"
+
+#include <algorithm>
+
+namespace scene {
+namespace {
+
+const EstimatedMetrics kEstimated;
+
+constexpr int kDefaultWeight = 25; // where the drawing says "default"
+
+} // namespace
+
+SceneBuilder::SceneBuilder(AcDbDatabase& database, const SceneOptions& options)
+    : m_database(database), m_options(options), m_variables(VariablesOf(database)),
+      m_layers(database, options.forPlotting), m_styles(database),
+      m_metrics(options.metrics ? options.metrics : &kEstimated) {
+  m_scene.pointMode = m_variables.pointMode;
+  m_scene.pointSize = m_variables.pointSize;
+}
+
+void SceneBuilder::addTopLevel(const AcDbObjectId& id) {
+  const auto* entity = AcDbEntity::cast(id.object());
+  if (!entity || entity->isErased() || m_exhausted) return;
+  beginGroup(id);
+  drawEntity(Frame(), id);
+  endGroup();
+}
+
+void SceneBuilder::beginGroup(const AcDbObjectId& entity) {
+  m_group = Group();
+  m_group.entity = entity;
+  m_group.firstPrimitive = static_cast<std::uint32_t>(m_scene.primitives.size());
+}
+
+void SceneBuilder::endGroup() {
+  m_group.primitiveCount = static_cast<std::uint32_t>(m_scene.primitives.size()) - m_group.firstPrimitive;
+  if (m_group.primitiveCount == 0) return;
+  m_scene.box.Add(m_group.box);
+  m_scene.groups.push_back(m_group);
+}
+
+void SceneBuilder::addThrough(const Frame& frame, const AcDbBlockTableRecord& space,
+                              const ge::Box2d& visible) {
+  const Group outer = m_group;
+  ge::Box2d seen = outer.box;
+  for (const AcDbObjectId& id : space.entities()) {
+    if (m_exhausted) break;
+    const Mark before = mark();
+    m_group.box = ge::Box2d();
+    m_group.unbounded = false;
+    drawEntity(frame, id);
+    if (m_group.unbounded || m_group.box.Overlaps(visible)) {
+      seen.Add(visible);
+      continue;
+    }
+    takeBack(before);
+  }
+  m_group.box = seen;
+  m_group.unbounded = outer.unbounded;
+}
+
+SceneBuilder::Mark SceneBuilder::mark() const {
+  return {m_scene.verbs.size(), m_scene.points.size(), m_scene.primitives.size(), m_scene.texts.size()};
+}
+
+void SceneBuilder::takeBack(const Mark& mark) {
+  m_scene.verbs.resize(mark.verbs);
+  m_scene.points.resize(mark.points);
+  m_scene.primitives.resize(mark.primitives);
+  m_scene.texts.resize(mark.texts);
+}
+
+Path SceneBuilder::outlineOf(const AcDbObjectId& id) {
+  const Group outer = m_group;
+  const Mark before = mark();
+  drawEntity(Frame(), id);
+  Path path;
+  path.verbs.assign(m_scene.verbs.begin() + static_cast<std::ptrdiff_t>(before.verbs), m_scene.verbs.end());
+  path.points.assign(m_scene.points.begin() + static_cast<std::ptrdiff_t>(before.points),
+                     m_scene.points.end());
+  takeBack(before);
+  m_group = outer;
+  return path;
+}
+
+Scene SceneBuilder::finish() {
+  m_scene.leftOut = m_leftOut.sentences();
+  return std::move(m_scene);
+}
+
+std::int32_t SceneBuilder::addClip(Path path, std::int32_t within) {
+  m_scene.clips.push_back({std::move(path), within});
+  return static_cast<std::int32_t>(m_scene.clips.size()) - 1;
+}
+
+std::int32_t SceneBuilder::pattern(const Look& look, double linetypeLength, bool bySegment) {
+  const double scale = m_variables.linetypeScale * look.linetypeScale * linetypeLength;
+  return m_linetypes.find(look.linetype, scale, bySegment, m_scene.patterns);
+}
+
+void SceneBuilder::exhaust(const wchar_t* what) {
+  if (!m_exhausted) m_leftOut.add(what, m_group.entity.handle());
+  m_exhausted = true;
+}
+
+bool SceneBuilder::add(Primitive primitive, PathView path) {
+  if (m_exhausted) return false;
+  if (m_scene.points.size() + path.points.size() > m_options.limits.points) {
+    exhaust(L"图形太大，其后的实体未画");
+    return false;
+  }
+  primitive.firstVerb = static_cast<std::uint32_t>(m_scene.verbs.size());
+  primitive.verbCount = static_cast<std::uint32_t>(path.verbs.size());
+  primitive.firstPoint = static_cast<std::uint32_t>(m_scene.points.size());
+  primitive.pointCount = static_cast<std::uint32_t>(path.points.size());
+  m_scene.verbs.insert(m_scene.verbs.end(), path.verbs.begin(), path.verbs.end());
+  m_scene.points.insert(m_scene.points.end(), path.points.begin(), path.points.end());
+  m_scene.primitives.push_back(primitive);
+  if (primitive.kind == Primitive::Kind::ray || primitive.kind == Primitive::Kind::xline) {
+    m_group.unbounded = true;
+    return true;
+  }
+  ge::Box2d box = BoxOf(path);
+  const double half = primitive.width / 2;
+  if (half > 0) box = {box.minX - half, box.minY - half, box.maxX + half, box.maxY + half};
+  if (primitive.clip != Primitive::kNone) {
+    const ge::Box2d clip = BoxOf(m_scene.clips[static_cast<std::size_t>(primitive.clip)].path.view());
+    box = {std::max(box.minX, clip.minX), std::max(box.minY, clip.minY), std::min(box.maxX, clip.maxX),
+           std::min(box.maxY, clip.maxY)};
+    if (box.IsEmpty()) return true;
+  }
+  m_group.box.Add(box);
+  return true;
+}
+
+bool SceneBuilder::addText(Primitive primitive, TextRun run) {
+  const AcGePoint2d end = run.origin + run.along * run.advance;
+  const AcGeVector2d below = run.up * -0.3; // what hangs under the base line
+  const AcGePoint2d corners[] = {run.origin + below, end + below, end + run.up, run.origin + run.up};
+  const Verb verbs[] = {Verb::move, Verb::line, Verb::line, Verb::line};
+  primitive.text = static_cast<std::uint32_t>(m_scene.texts.size());
+  if (!add(primitive, {verbs, corners})) return false;
+  m_scene.texts.push_back(std::move(run));
+  return true;
+}
+
+void SceneBuilder::drawBlock(const Frame& outer, const Look& look, const AcDbEntity& insertion,
+                             const AcDbObjectId& block, const AcGeMatrix3d& toSpace) {
+  const auto* record = AcDbBlockTableRecord::cast(block.object());
+  if (!record || record->isErased()) return m_leftOut.add(L"没有图块定义", insertion.handle());
+  if (record->isFromExternalReference() && record->entities().empty())
+    return m_leftOut.add(L"外部参照未载入", insertion.handle());
+  if (std::find(m_open.begin(), m_open.end(), block) != m_open.end())
+    return m_leftOut.add(L"图块包含自身", insertion.handle());
+  if (outer.depth >= m_options.limits.depth) return m_leftOut.add(L"图块嵌套太深", insertion.handle());
+  Frame inner = outer;
+  inner.toScene = outer.toScene * toSpace;
+  inner.inBlock = true;
+  inner.byBlock = look;
+  inner.layer = effectiveLayer(outer, insertion);
+  inner.linetypeLength = outer.linetypeLength * Pen::lengthScale(toSpace);
+  inner.depth = outer.depth + 1;
+  m_open.push_back(block);
+  for (const AcDbObjectId& id : record->entities()) {
+    if (m_exhausted) break;
+    drawEntity(inner, id);
+  }
+  m_open.pop_back();
+}
+
+const EntityTags& SceneBuilder::tagsOf(const AcDbEntity& entity, bool keep, EntityTags& own) {
+  if (!keep) {
+    own = EntityTags(entity.record());
+    return own;
+  }
+  const auto [at, isNew] = m_kept.try_emplace(entity.objectId());
+  if (isNew) at->second = EntityTags(entity.record());
+  return at->second;
+}
+
+AcDbObjectId SceneBuilder::effectiveLayer(const Frame& frame, const AcDbEntity& entity) const {
+  return frame.inBlock && m_layers.of(entity.layerId()).isZero ? frame.layer : entity.layerId();
+}
+
+bool SceneBuilder::isHidden(const Frame& frame, const AcDbObjectId& layer, bool isInsertion) const {
+  const LayerLook& look = m_layers.of(layer);
+  if (look.frozen || (frame.frozen && frame.frozen->contains(layer))) return true;
+  return look.off && !isInsertion; // what stands in a block on a layer of its own stays
+}
+
+Look SceneBuilder::lookOf(const Frame& frame, const AcDbEntity& entity, const EntityTags& tags,
+                          const AcDbObjectId& layer) const {
+  const LayerLook& layerLook = m_layers.of(layer);
+  Look look;
+  look.color = entity.color().isByLayer()   ? layerLook.color
+               : entity.color().isByBlock() ? frame.byBlock.color
+                                            : Color::fromIndex(entity.colorIndex());
+  const std::uint8_t inherited = entity.color().isByBlock() ? frame.byBlock.color.alpha : 255;
+  look.color.alpha = std::min(layerLook.color.alpha, inherited);
+  if (const DxfTag* tag = tags.common(420)) {
+    look.color = Color::fromTrueColor(IntegerOf(*tag));
+    look.color.alpha = layerLook.color.alpha;
+  }
+  if (const DxfTag* tag = tags.common(440))
+    if (const auto alpha = EntityAlpha(IntegerOf(*tag))) look.color.alpha = *alpha;
+
+  const auto* linetype = AcDbSymbolTableRecord::cast(entity.linetypeId().object());
+  if (!linetype || linetype->name().CompareNoCase(L"ByLayer") == 0)
+    look.linetype = layerLook.linetype;
+  else if (linetype->name().CompareNoCase(L"ByBlock") == 0)
+    look.linetype = frame.byBlock.linetype;
+  else
+    look.linetype = entity.linetypeId();
+  look.linetypeScale = entity.linetypeScale() > 0 ? entity.linetypeScale() : 1;
+
+  int weight = entity.lineWeight();
+  if (weight == AcDb::kLnWtByLayer) weight = layerLook.weight;
+  if (weight == AcDb::kLnWtByBlock) weight = frame.byBlock.weight;
+  look.weight = weight < 0 ? kDefaultWeight : weight;
+  return look;
+}
+
+void SceneBuilder::drawEntity(const Frame& frame, const AcDbObjectId& id) {
+  const auto* entity = AcDbEntity::cast(id.object());
+  if (!entity || entity->isErased() || entity->visibility() == AcDb::kInvisible) return;
+  if (++m_entities > m_options.limits.entities) return exhaust(L"图块展开后的实体太多，其后的未画");
+  const DxfRecord& record = entity->record();
+  const std::string_view type = record.type();
+  const AcDbObjectId layer = effectiveLayer(frame, *entity);
+  if (isHidden(frame, layer, type == "INSERT")) return;
+  EntityTags own;
+  const EntityTags& tags = tagsOf(*entity, frame.inBlock, own);
+  Pen pen(*this, frame, *entity, tags, lookOf(frame, *entity, tags, layer));
+  if (const Painter painter = PainterOf(type)) return painter(pen);
+  WorldDrawPen draw(pen);
+  entity->worldDraw(draw);
+  if (draw.isEmpty()) m_leftOut.add(CString::FromUtf8(type) + L" 未画", entity->handle());
+}
+
+Scene BuildScene(AcDbDatabase& database, const AcDbObjectId& space, const SceneOptions& options) {
+  const auto* block = AcDbBlockTableRecord::cast(space.object());
+  return BuildScene(database, block ? std::span(block->entities()) : std::span<const AcDbObjectId>(),
+                    options);
+}
+
+Scene BuildScene(AcDbDatabase& database, std::span<const AcDbObjectId> entities,
+                 const SceneOptions& options) {
+  SceneBuilder builder(database, options);
+  for (const AcDbObjectId& id : entities) builder.addTopLevel(id);
+  return builder.finish();
+}
+
+} // namespace scene
