@@ -55,7 +55,7 @@ Path readSpline(TagCursor& cursor) {
   if (cursor.code() == 97) {
     TagCursor ahead = cursor;
     ahead.step();
-    if (ahead.code() == 11 || ahead.code() == 12 || ahead.code() == 97) cursor = ahead;
+    if (ahead.code() == 11 || ahead.code() == 12 || ahead.code() == 72 || ahead.code() == 97) cursor = ahead;
   }
   while (cursor.code() == 11) curve.fits.push_back(inPlane(cursor.point(11)));
   for (const int tangent : {12, 13})
