@@ -101,7 +101,9 @@ double FontLayouts::capHeight(const scene::Font& font) {
 }
 
 PangoLayout* FontLayouts::layout(const scene::Font& font, std::wstring_view text) {
-  const int fullWidth = font.isStroked() ? static_cast<int>(capHeight(font) * PANGO_SCALE) : 0;
+  // The strokes of a character fill nine tenths of its square.
+  constexpr double kSquare = 1.1;
+  const int fullWidth = font.isStroked() ? static_cast<int>(kSquare * capHeight(font) * PANGO_SCALE) : 0;
   m_state->setText(font, text, fullWidth);
   return m_state->layout;
 }

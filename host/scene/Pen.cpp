@@ -124,9 +124,7 @@ void Pen::block(const AcDbObjectId& block, const AcGeMatrix3d& toSpace) {
 }
 
 void Pen::subEntity(const AcDbObjectId& id) {
-  Frame frame = m_frame;
-  frame.byBlock = m_look;
-  m_builder.drawEntity(frame, id);
+  m_builder.drawPart(m_frame, m_look, m_entity, id);
 }
 
 void Pen::clip(PathPen& path) {

@@ -178,6 +178,15 @@ void SceneBuilder::drawBlock(const Frame& outer, const Look& look, const AcDbEnt
   m_open.pop_back();
 }
 
+void SceneBuilder::drawPart(const Frame& outer, const Look& look, const AcDbEntity& whole,
+                            const AcDbObjectId& part) {
+  Frame frame = outer;
+  frame.inBlock = true;
+  frame.byBlock = look;
+  frame.layer = effectiveLayer(outer, whole);
+  drawEntity(frame, part);
+}
+
 const EntityTags& SceneBuilder::tagsOf(const AcDbEntity& entity, bool keep, EntityTags& own) {
   if (!keep) {
     own = EntityTags(entity.record());
@@ -239,7 +248,7 @@ void SceneBuilder::drawEntity(const Frame& frame, const AcDbObjectId& id) {
   const AcDbObjectId layer = effectiveLayer(frame, *entity);
   if (isHidden(frame, layer, type == "INSERT")) return;
   EntityTags own;
-  const EntityTags& tags = tagsOf(*entity, frame.inBlock, own);
+  const EntityTags& tags = tagsOf(*entity, frame.depth > 0, own);
   Pen pen(*this, frame, *entity, tags, lookOf(frame, *entity, tags, layer));
   if (const Painter painter = PainterOf(type)) return painter(pen);
   WorldDrawPen draw(pen);

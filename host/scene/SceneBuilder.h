@@ -43,6 +43,8 @@ class SceneBuilder {
   bool addText(Primitive primitive, TextRun run);
   void drawBlock(const Frame& outer, const Look& look, const AcDbEntity& insertion, const AcDbObjectId& block,
                  const AcGeMatrix3d& toSpace);
+  // An entity that belongs to another and follows its layer as the contents of a block do.
+  void drawPart(const Frame& outer, const Look& look, const AcDbEntity& whole, const AcDbObjectId& part);
   void drawEntity(const Frame& frame, const AcDbObjectId& id);
   bool isExhausted() const { return m_exhausted; }
 

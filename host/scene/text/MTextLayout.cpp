@@ -212,7 +212,7 @@ MTextLayout LayOutMText(const std::vector<TextPiece>& pieces, const MTextForm& f
       text.slashTo += y;
       layout.texts.push_back(std::move(text));
     }
-    if (line.endsColumn && hasColumns && inColumn + 1 < form.columnHeights.size()) {
+    if (line.endsColumn && hasColumns) { // beyond the last column too
       ++inColumn;
       isFirst = true;
     }
