@@ -4,7 +4,7 @@
 
 #include "host/afx/CString.h"
 #include "host/afx/CStringArray.h"
-#include "plugin/base/VkDtDictionary.h"
+#include "plugin/base/xml/ItemWalk.h"
 
 namespace fancoil {
 
@@ -34,13 +34,7 @@ CString WaterDatabasePath();
 // The item's text in small letters, as block names are stored and compared.
 CString SmallLetters(CString name);
 
-// Calls visit for each item, in the order of the file, until it gives false.
-template <typename Visit> void WalkItems(VkDtDictionary& part, Visit visit) {
-  for (part.MoveToFirst(); !part.IsOut(); part.MoveToNext()) {
-    VkDtDictItem* item = part.GetCurData();
-    if (item && !visit(*item)) return;
-  }
-}
+using xml::WalkItems;
 
 // The first item whose attribute has exactly that text, or that number; null for none and without a part.
 VkDtDictItem* FindItem(VkDtDictionary* part, const wchar_t* attribute, const CString& text);
