@@ -8,6 +8,7 @@
 #include "host/afx/Paths.h"
 #include "tools/data/Ducts.h"
 #include "tools/data/LayerScheme.h"
+#include "tools/data/LocalResistances.h"
 #include "tools/data/PipeMaterials.h"
 #include "tools/data/Radiators.h"
 #include "tools/data/Table.h"
@@ -19,9 +20,13 @@ namespace {
 
 // The catalogues load what stands there before they are filled, and pipes and ducts keep each other's
 // sections; the result shall depend on the tables alone.
-constexpr const char* kFiles[] = {
-    "Data/PipeMaterial.idp", "Data/PipeLimit.idp", "Data/LayerManager/默认方案.idp",
-    "HeatingData/Srq.idp",   "Data/FCUData.idp",   "Data/KTSLDatabase.xml"};
+constexpr const char* kFiles[] = {"Data/PipeMaterial.idp",
+                                  "Data/PipeLimit.idp",
+                                  "Data/LayerManager/默认方案.idp",
+                                  "HeatingData/Srq.idp",
+                                  "Data/FCUData.idp",
+                                  "Data/KTSLDatabase.xml",
+                                  "VacCal.xml"};
 
 void Write(const std::string& tables, const std::filesystem::path& output) {
   for (const char* file : kFiles) std::filesystem::remove(output / file);
@@ -33,6 +38,7 @@ void Write(const std::string& tables, const std::filesystem::path& output) {
   WriteRadiators(tables);
   WriteFanCoils(tables);
   WriteWaterSystems(tables);
+  WriteLocalResistances(tables);
 }
 
 } // namespace

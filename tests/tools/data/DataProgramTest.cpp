@@ -133,7 +133,49 @@ INSTANTIATE_TEST_SUITE_P(
         Fault{"radiators.tsv", "甲\t乙\tm\t2\t\t\t1.8\t674.541\t5.9\t\t\t\t\tx\tM\t", "k_pub: not what"},
         Fault{"radiators.tsv", "甲\t\t片\t2\t\t\t\t80\t\t\t\t\t\tx\tM\t", "no maker or no model"},
         Fault{"radiators.tsv", "铸铁散热器(教材)\t四柱760型\t片\t2\t\t\t\t80\t\t\t\t\t\tx\tM\t",
-              "model twice"}));
+              "model twice"},
+        Fault{"fittings.tsv", "F99\t弯头\tx\t1\t1\t1\t1\t1\t1\tx\tx\tM", "name twice"},
+        Fault{"fittings.tsv", "F99\t\tx\t1\t1\t1\t1\t1\t1\tx\tx\tM", "no name"},
+        Fault{"fittings.tsv", "F99\t新件\tx\t1\t1\t-1\t1\t1\t1\tx\tx\tM", "DN25: below 0"},
+        Fault{"fittings.tsv", "F99\t新件\tx\t1\t1\t1\t1\t1\t0.125\tx\tx\tM", "DN50: more than two"},
+        Fault{"fittings.tsv", "F99\t新件\tx\t1\t1\t1\t1\t约2\t1\tx\tx\tM", "DN40: no number"},
+        Fault{"tees.tsv", "3汇1-2\t三通\t1→2\t1\tx\tx\tx\tM", "direction: unknown"},
+        Fault{"tees.tsv", "3汇1-3\t三通\t1→3\t1\tx\tx\tx\tM", "3汇1-3 twice"},
+        Fault{"tees.tsv", "3汇1-3\t三通\t3→1\t1\tx\tx\tx\tM", "path: not that"},
+        Fault{"tee_pictures.tsv", "3汇\t另.svg", "3汇 twice"}));
+
+// A table without one of its lines.
+struct Gap {
+  const char* table;
+  const char* beginning;
+  const char* reason;
+};
+
+class DataProgramGap : public DataProgram, public testing::WithParamInterface<Gap> {};
+
+TEST_P(DataProgramGap, EndsItWithTheReason) {
+  const auto path = std::string("tables/") + GetParam().table;
+  std::string text = folder.Read(path);
+  const auto at = text.find("\n" + std::string(GetParam().beginning));
+  ASSERT_NE(at, std::string::npos);
+  folder.Write(path, text.erase(at, text.find('\n', at + 1) - at));
+  EXPECT_EQ(RunOnCopies(), 1);
+  EXPECT_NE(Said().find(GetParam().reason), std::string::npos) << Said();
+}
+
+INSTANTIATE_TEST_SUITE_P(Gaps, DataProgramGap,
+                         testing::Values(Gap{"tees.tsv", "4通1-4\t", "tees.tsv: no 4通1-4"},
+                                         Gap{"tee_pictures.tsv", "4通\t", "tee_pictures.tsv: no 4通"}));
+
+TEST_F(DataProgram, RefusesAFlowWhoseCoefficientIsNotThatOfItsClass) {
+  const std::string table = folder.Read("tables/tees.tsv");
+  const std::string from = "4通1-3\t四通\t1→3\t2.0";
+  ASSERT_NE(table.find(from), std::string::npos);
+  folder.Write("tables/tees.tsv",
+               std::string(table).replace(table.find(from), from.size(), "4通1-3\t四通\t1→3\t3.0"));
+  EXPECT_EQ(RunOnCopies(), 1);
+  EXPECT_NE(Said().find("xi: not that of its class"), std::string::npos) << Said();
+}
 
 TEST_F(DataProgram, EndsWithoutATable) {
   fs::remove(folder.Root() / "tables/layers.tsv");
