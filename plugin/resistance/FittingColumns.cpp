@@ -8,10 +8,17 @@ double CoefficientAt(const CZPPipePartsCoe& fitting, double diameter) {
   return 0;
 }
 
+// Names of a kind often begin alike ("截止阀DN15", "截止阀DN20"), so their last characters tell most of them
+// apart without a comparison of the whole.
 const CZPPipePartsCoe* FindFitting(const CZPArray<CZPPipePartsCoe, CZPPipePartsCoe&>& fittings,
                                    const CString& name) {
-  for (const CZPPipePartsCoe& fitting : fittings)
-    if (fitting.szName == name) return &fitting;
+  const std::wstring_view wanted = name.View();
+  const wchar_t last = wanted.empty() ? L'\0' : wanted.back();
+  for (const CZPPipePartsCoe& fitting : fittings) {
+    const std::wstring_view candidate = fitting.szName.View();
+    if (candidate.size() != wanted.size()) continue;
+    if (candidate.empty() || (candidate.back() == last && candidate == wanted)) return &fitting;
+  }
   return nullptr;
 }
 

@@ -84,6 +84,21 @@ TEST_F(ResistanceStore, ComparesNamesExactlyAndLeavesTheResultOfAMissAlone) {
   EXPECT_EQ(found.dbDN50, 0.1);
 }
 
+TEST_F(ResistanceStore, TellsNamesApartThatDifferInOneCharacter) {
+  const wchar_t* names[] = {L"甲乙丙", L"丁乙丙", L"甲丁丙", L"甲乙丁", L"甲乙", L"丙", L""};
+  double coefficient = 0;
+  for (const wchar_t* name : names) AddFitting(Fitting(name, ++coefficient));
+  coefficient = 0;
+  for (const wchar_t* name : names) {
+    CZPPipePartsCoe found;
+    EXPECT_EQ(store.GetPipePartsCoe(name, found), 1);
+    EXPECT_EQ(found.dbDN15, ++coefficient) << CString(name).ToUtf8();
+  }
+  CZPPipePartsCoe found;
+  EXPECT_EQ(store.GetPipePartsCoe(L"乙乙丙", found), 0);
+  EXPECT_EQ(store.GetPipePartsCoe(L"甲", found), 0);
+}
+
 TEST_F(ResistanceStore, DropsFittingsWithoutAName) {
   PutFitting(L"", L"1");
   PutFitting(L"弯头", L"2");

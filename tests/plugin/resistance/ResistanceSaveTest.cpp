@@ -1,11 +1,8 @@
 // Saving: what is replaced, what stays, and what a save that fails leaves behind.
-#include <sched.h>
-#include <sys/mount.h>
-#include <sys/wait.h>
-
 #include "tests/plugin/resistance/ResistanceFixture.h"
 #include "tests/support/FullDisk.h"
 #include "tests/support/OrdinaryUser.h"
+#include "tests/support/TinyDisk.h"
 
 namespace {
 
@@ -229,31 +226,22 @@ TEST_F(ResistanceSave, InAFolderThatIsReadOnlyFailsAndLeavesTheOldFileWhole) {
   EXPECT_EQ(store.SaveData(), 1);
 }
 
-// A disk of 16 KiB of a child's own, with a file that fits in once and not twice. The child's result: 0 when
-// everything was as expected, 77 where such a disk can't be had, else what failed.
-TEST_F(ResistanceSave, OnASmallDiskThatRunsFullFailsAndLeavesTheOldFileWhole) {
+// The file fits onto the disk once and not twice.
+TEST_F(ResistanceSave, OnATinyDiskThatRunsFullFailsAndLeavesTheOldFileWhole) {
   for (int i = 0; i < 40; ++i) PutFitting(L"件" + ZP::itoa(i));
   Start();
   const std::string bytes = install.Read(kFile);
   ASSERT_GT(bytes.size(), 8u << 10);
   ASSERT_LT(bytes.size(), 16u << 10);
-  const pid_t child = ::fork();
-  if (child == 0) {
-    if (::unshare(CLONE_NEWNS) != 0 || ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
-        ::mount("none", install.Root().c_str(), "tmpfs", 0, "size=16k") != 0)
-      ::_exit(77);
+  const TinyDiskResult result = OnATinyDisk(install.Root(), [&] {
     install.Write(kFile, bytes);
-    if (install.Read(kFile) != bytes) ::_exit(1);
-    if (store.SaveData() != 0) ::_exit(2);
-    if (install.Read(kFile) != bytes) ::_exit(3);
-    if (std::distance(std::filesystem::directory_iterator(install.Root()), {}) != 1) ::_exit(4);
-    ::_exit(0);
-  }
-  int status = 0;
-  ASSERT_EQ(::waitpid(child, &status, 0), child);
-  ASSERT_TRUE(WIFEXITED(status));
-  if (WEXITSTATUS(status) == 77) GTEST_SKIP() << "no right to mount";
-  EXPECT_EQ(WEXITSTATUS(status), 0);
+    const bool fits = install.Read(kFile) == bytes;
+    const bool refused = store.SaveData() == 0;
+    const auto files = std::distance(std::filesystem::directory_iterator(install.Root()), {});
+    return fits && refused && install.Read(kFile) == bytes && files == 1;
+  });
+  if (result == TinyDiskResult::kNotAllowed) GTEST_SKIP() << "disks cannot be mounted here";
+  EXPECT_EQ(result, TinyDiskResult::kPassed);
 }
 
 } // namespace

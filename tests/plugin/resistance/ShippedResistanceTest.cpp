@@ -33,9 +33,10 @@ TEST_F(ShippedResistance, HasTheFlowsOfTheTable) {
   const auto rows = ShippedTable("tees.tsv");
   EXPECT_EQ(rows.size(), std::size(resistance::kTeeFlows));
   for (const auto& row : rows)
-    for (const auto& flow : resistance::kTeeFlows)
-      if (CString(flow.key).ToUtf8() == row.at("direction"))
-        EXPECT_EQ(store.m_coe3T4T.*flow.coefficient, Number(row.at("xi"))) << row.at("direction");
+    for (const auto& flow : resistance::kTeeFlows) {
+      if (CString(flow.key).ToUtf8() != row.at("direction")) continue;
+      EXPECT_EQ(store.m_coe3T4T.*flow.coefficient, Number(row.at("xi"))) << row.at("direction");
+    }
 }
 
 // Of the cock the source has no figures above DN32.
