@@ -64,6 +64,17 @@ function(zp_program name)
                                            INSTALL_RPATH "$ORIGIN/../lib/zppipemanager")
 endfunction()
 
+# Lets a target include ZpPaths.h, where ZP_SOURCE_DIR and ZP_BINARY_DIR are. They stand in a header, and not among
+# the compiler's options, so that ccache serves all other sources whatever folder they are built in.
+function(zp_paths target)
+  set(folder ${CMAKE_BINARY_DIR}/generated)
+  if(NOT EXISTS ${folder}/ZpPaths.h)
+    file(WRITE ${folder}/ZpPaths.h
+         "#pragma once\n#define ZP_SOURCE_DIR \"${CMAKE_SOURCE_DIR}\"\n#define ZP_BINARY_DIR \"${CMAKE_BINARY_DIR}\"\n")
+  endif()
+  target_include_directories(${target} PRIVATE ${folder})
+endfunction()
+
 # The tests of one folder: zp_tests(host/afx LIBS zp::afx) builds test_host_afx and registers each case.
 function(zp_tests folder)
   cmake_parse_arguments(ARG "" "" "LIBS" ${ARGN})
@@ -74,8 +85,7 @@ function(zp_tests folder)
   endif()
   add_executable(test_${name} ${sources})
   zp_common(test_${name})
-  target_compile_definitions(test_${name} PRIVATE ZP_SOURCE_DIR="${CMAKE_SOURCE_DIR}"
-                                                  ZP_BINARY_DIR="${CMAKE_BINARY_DIR}")
+  zp_paths(test_${name})
   target_link_libraries(test_${name} PRIVATE ${ARG_LIBS} GTest::gmock GTest::gtest GTest::gtest_main)
   gtest_discover_tests(test_${name} TEST_PREFIX "${folder}/" PROPERTIES LABELS unit TIMEOUT 300
                        DISCOVERY_TIMEOUT 60)
@@ -87,7 +97,7 @@ function(zp_bench name)
   file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
   add_executable(bench_${name} EXCLUDE_FROM_ALL ${sources})
   zp_common(bench_${name})
-  target_compile_definitions(bench_${name} PRIVATE ZP_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+  zp_paths(bench_${name})
   target_link_libraries(bench_${name} PRIVATE ${ARG_LIBS} benchmark::benchmark)
 endfunction()
 

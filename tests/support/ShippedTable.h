@@ -2,6 +2,7 @@
 // against its sources.
 #pragma once
 
+#include "ZpPaths.h"
 #include <fstream>
 #include <map>
 #include <sstream>

@@ -1,5 +1,6 @@
 #include "tests/host/dxf/DrawingFiles.h"
 
+#include "ZpPaths.h"
 #include "host/db/AcDbBlockTable.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+#include "ZpPaths.h"
 #include "host/ed/AcRxDynamicLinker.h"
 #include "tests/support/EditorFixture.h"
 

@@ -1,4 +1,5 @@
 // The page on the catalogue's file tells every key with the type, default and unit that the program has.
+#include "ZpPaths.h"
 #include "plugin/fancoil/OldCatalogueFields.h"
 #include "tests/plugin/fancoil/CatalogueFixture.h"
 

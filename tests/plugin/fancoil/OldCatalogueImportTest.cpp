@@ -1,5 +1,6 @@
 #include "plugin/fancoil/OldCatalogueImport.h"
 
+#include "ZpPaths.h"
 #include "plugin/fancoil/OldCatalogueFields.h"
 #include "tests/plugin/fancoil/CatalogueFixture.h"
 #include "tests/plugin/fancoil/OldCatalogue.h"

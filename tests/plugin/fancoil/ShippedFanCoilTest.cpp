@@ -1,4 +1,5 @@
 // The fan-coil catalogue and the water-system database as shipped, read as the plug-in reads them.
+#include "ZpPaths.h"
 #include "plugin/layers/CZPManagerLayer.h"
 #include "tests/plugin/fancoil/CatalogueFixture.h"
 

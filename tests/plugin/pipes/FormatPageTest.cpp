@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "ZpPaths.h"
 #include "plugin/base/NumberText.h"
 #include "plugin/pipes/PipeFields.h"
 #include "plugin/pipes/ducts/DuctFields.h"

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "ZpPaths.h"
 #include "host/afx/CInvalidArgException.h"
 #include "host/afx/Numbers.h"
 #include "plugin/base/NumberText.h"

@@ -2,6 +2,7 @@
 #include <csignal>
 #include <sys/resource.h>
 
+#include "ZpPaths.h"
 #include "host/afx/MessageLog.h"
 #include "tests/plugin/radiators/RadiatorCatalogueFixture.h"
 

@@ -1,3 +1,4 @@
+#include "ZpPaths.h"
 #include "host/afx/MessageLog.h"
 #include "tests/plugin/radiators/RadiatorCatalogueFixture.h"
 #include "tests/plugin/radiators/RadiatorText.h"

@@ -1,6 +1,7 @@
 // The catalogue as shipped, held against the table of its sources.
 #include <cmath>
 
+#include "ZpPaths.h"
 #include "tests/plugin/radiators/RadiatorCatalogueFixture.h"
 #include "tests/support/ShippedTable.h"
 

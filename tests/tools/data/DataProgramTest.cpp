@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "ZpPaths.h"
 #include "tests/support/TempInstall.h"
 
 namespace {

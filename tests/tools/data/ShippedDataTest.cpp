@@ -3,6 +3,7 @@
 
 #include <set>
 
+#include "ZpPaths.h"
 #include "host/afx/MessageLog.h"
 #include "host/db/AcDb.h"
 #include "plugin/base/Folders.h"

@@ -1,6 +1,7 @@
 // The duct half of PipeMaterial.idp as shipped, held against the tables of its sources.
 #include <algorithm>
 
+#include "ZpPaths.h"
 #include "plugin/pipes/CZPPipeMaterialManager.h"
 #include "tests/plugin/pipes/ducts/DuctFixture.h"
 #include "tests/support/ShippedTable.h"

@@ -1,4 +1,5 @@
 // PipeLimit.idp as shipped, held against the table of its sources.
+#include "ZpPaths.h"
 #include "tests/plugin/pipes/limits/LimitFixture.h"
 #include "tests/support/ShippedTable.h"
 
