@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <bit>
 #include <cstdint>
 #include <limits>
 #include <memory>
@@ -10,14 +11,13 @@
 
 namespace vk {
 
-// Every value in the room exists: those not in use are T(). A block is made by new T[] so that Attach and
-// Detach can exchange it with callers.
+// A block is made by new T[] so that Attach and Detach can exchange it with callers.
 template <class T> class Block {
  public:
   T* Data() const { return m_data.get(); }
   int Room() const { return m_room; }
 
-  // Room for exactly that many; the first kept values move along.
+  // Room for exactly that many; the first kept values move along, the others are T().
   void Resize(int room, int kept) {
     if (room <= 0) return Take(nullptr, 0);
     auto data = std::make_unique<T[]>(static_cast<std::size_t>(room));
@@ -26,12 +26,16 @@ template <class T> class Block {
     Take(data.release(), room);
   }
 
-  // Room for at least that many. It at least doubles, so that growing one by one costs constant time.
+  // Room for at least that many. It grows to the next power of two, so that growing one by one costs constant
+  // time. Behind the first kept values nothing is written yet that would only be overwritten.
   void Ensure(std::int64_t room, int kept) {
     if (room <= m_room) return;
     constexpr std::int64_t kLimit = std::numeric_limits<int>::max();
     if (room > kLimit) throw std::bad_alloc();
-    Resize(static_cast<int>(std::min(kLimit, std::max(room, std::int64_t{2} * m_room))), kept);
+    room = std::min(kLimit, std::max(room, std::int64_t{std::bit_ceil(std::uint32_t(m_room) + 1)}));
+    auto data = std::make_unique_for_overwrite<T[]>(static_cast<std::size_t>(room));
+    std::move(m_data.get(), m_data.get() + kept, data.get());
+    Take(data.release(), static_cast<int>(room));
   }
 
   // Moves the values from at on, of length values, by one: away from at, or onto it. The place that becomes

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <concepts>
 #include <functional>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -91,15 +92,32 @@ template <class T, class Beyond> void SortBlock(T** data, int length, Beyond bey
   }
 }
 
-// What a list sorts: a node and the value to sort it by, null for what goes first.
+// What a list sorts: a node and the value to sort it by, which small values are copied for.
 template <class T, class Node> struct SortEntry {
-  const T* key;
+  static constexpr bool kCopied = std::is_trivially_copyable_v<T> && sizeof(T) <= 2 * sizeof(void*);
+
+  SortEntry(const T& value, Node* sorted) : node(sorted) {
+    if constexpr (kCopied) {
+      key = value;
+    } else {
+      key = &value;
+    }
+  }
+  const T& Key() const {
+    if constexpr (kCopied) {
+      return key;
+    } else {
+      return *key;
+    }
+  }
+
+  std::conditional_t<kCopied, T, const T*> key;
   Node* node;
 };
 template <class Beyond> struct EntryBefore {
   const Beyond& beyond;
   template <class Entry> bool operator()(const Entry& a, const Entry& b) const {
-    return b.key && (!a.key || beyond(*b.key, *a.key));
+    return beyond(b.Key(), a.Key());
   }
 };
 

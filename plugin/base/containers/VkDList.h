@@ -10,14 +10,13 @@
 template <class T> class ZP_EXPORT VkDList : public VkList<T> {
  public:
   using Base = VkList<T>;
+  using typename Base::DNode;
   using typename Base::Node;
-  using DNode = VkDListNode<T>;
 
   explicit VkDList(int count = 0); // so many elements T()
   VkDList(const VkDList& other);
   using Base::operator=;
   VkDList& operator=(const VkDList& other);
-  ~VkDList() override { this->FreeNodes(); }
 
  protected:
   using Base::m_nCursor;
@@ -26,19 +25,10 @@ template <class T> class ZP_EXPORT VkDList : public VkList<T> {
   using Base::m_pLast;
   using Base::m_pSentinel;
 
-  Node* MakeNode(const T& value) const override { return new DNode(value); }
-  void DropNode(Node* node) const override { delete static_cast<DNode*>(node); }
-  void JoinNodes(Node* first, Node* second) const override {
-    first->next = second;
-    static_cast<DNode*>(second)->previous = static_cast<DNode*>(first);
-  }
-  Node* NodeBefore(Node* node) const override { return static_cast<DNode*>(node)->previous; }
   Node* NodeAt(int index) const override;
-  bool HasTwoWayNodes() const override { return true; }
 };
 
-template <class T> VkDList<T>::VkDList(int count) : Base(new DNode) {
-  JoinNodes(m_pSentinel, m_pSentinel);
+template <class T> VkDList<T>::VkDList(int count) : Base(Base::Links::kBothWays) {
   this->SetLength(count, true);
 }
 

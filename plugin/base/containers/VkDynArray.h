@@ -24,25 +24,28 @@ template <class T> class ZP_EXPORT VkDynArray : public VkDynArrayBase<T> {
   void ReAllocate(int count) override;
   void SetLength(int count, bool keep) override; // a count equal to the space size changes only the length
   void Reset() override;
-  T& GetCurData() override { return GetAt(m_nCursor); }
-  bool MoveToFirst() override { return MoveTo(0); }
-  bool MoveToNext() override { return MoveTo(m_nCursor + 1); }
-  bool MoveToPre() override { return MoveTo(m_nCursor - 1); }
-  bool MoveToLast() override { return MoveTo(m_nLength - 1); }
-  bool MoveTo(int index) override {
-    m_nCursor = std::clamp(index, -1, m_nLength);
-    return this->IsValidIndex(m_nCursor);
-  }
+  T& GetCurData() override { return At(m_nCursor); }
+  bool MoveToFirst() override { return SetCursor(0); }
+  bool MoveToNext() override { return SetCursor(m_nCursor + 1); }
+  bool MoveToPre() override { return SetCursor(m_nCursor - 1); }
+  bool MoveToLast() override { return SetCursor(m_nLength - 1); }
+  bool MoveTo(int index) override { return SetCursor(index); }
   T* GetFirst() const override { return m_nLength > 0 ? m_block.Data() : nullptr; }
-  T* GetNext(const T* value) const override { return value == GetLast() ? nullptr : Slot(value) + 1; }
+  T* GetNext(const T* value) const override { return value + 1 == End() ? nullptr : Slot(value) + 1; }
   T* GetPre(const T* value) const override { return value == m_block.Data() ? nullptr : Slot(value) - 1; }
-  T* GetLast() const override { return m_nLength > 0 ? m_block.Data() + m_nLength - 1 : nullptr; }
-  T& GetAt(int index) const override {
-    assert(this->IsValidIndex(index));
-    return m_block.Data()[index];
-  }
+  T* GetLast() const override { return m_nLength > 0 ? End() - 1 : nullptr; }
+  T& GetAt(int index) const override { return At(index); }
   void InsertCur(const T& value) override;
-  int Append(const T& value) override;
+  int Append(const T& value) override {
+    if (m_nLength == m_nSpaceSize) {
+      T added = value; // the argument may be an element, which moves
+      EnsureSpace(1);
+      *End() = std::move(added);
+    } else {
+      *End() = value;
+    }
+    return m_nCursor = m_nLength++;
+  }
   bool DelCur() override;
   void Sort(Compare compare) override { SortBy(vk::ByCompare<T>{compare}, vk::NoHoles()); }
   void Sort(bool ascending) override;
@@ -74,6 +77,15 @@ template <class T> class ZP_EXPORT VkDynArray : public VkDynArrayBase<T> {
 
  private:
   static T* Slot(const T* value) { return const_cast<T*>(value); }
+  T* End() const { return m_block.Data() + m_nLength; }
+  T& At(int index) const {
+    assert(this->IsValidIndex(index));
+    return m_block.Data()[index];
+  }
+  bool SetCursor(int index) {
+    m_nCursor = std::clamp(index, -1, m_nLength);
+    return this->IsValidIndex(m_nCursor);
+  }
   void EnsureSpace(int more); // for so many elements more
   void ChangeLength(int count);
 

@@ -26,11 +26,12 @@ template <class T> void VkDynArray<T>::ChangeLength(int count) {
 template <class T> void VkDynArray<T>::EnsureSpace(int more) {
   const std::int64_t needed = std::int64_t{m_nLength} + more;
   if (needed <= m_nSpaceSize) return;
-  // What stood behind the length does not come along.
-  std::fill(m_block.Data() + m_nLength, m_block.Data() + m_nSpaceSize, T());
   constexpr std::int64_t kLimit = std::numeric_limits<int>::max();
-  m_block.Ensure(std::max(needed, std::min(needed + m_nAllocUnit, kLimit)), m_nLength);
-  m_nSpaceSize = static_cast<int>(std::min(needed + m_nAllocUnit, kLimit));
+  const std::int64_t space = std::min(needed + m_nAllocUnit, kLimit);
+  m_block.Ensure(std::max(needed, space), m_nLength);
+  // What stood behind the length does not come along.
+  std::fill(m_block.Data() + m_nLength, m_block.Data() + space, T());
+  m_nSpaceSize = static_cast<int>(space);
 }
 
 template <class T> void VkDynArray<T>::ReAllocate(int count) {
@@ -61,17 +62,6 @@ template <class T> void VkDynArray<T>::InsertCur(const T& value) {
   m_nCursor = std::max(m_nCursor, 0);
   m_block.Open(m_nCursor, m_nLength++);
   m_block.Data()[m_nCursor] = std::move(inserted);
-}
-
-template <class T> int VkDynArray<T>::Append(const T& value) {
-  if (m_nLength == m_nSpaceSize) {
-    m_nCursor = m_nLength;
-    InsertCur(value);
-  } else {
-    m_block.Data()[m_nLength] = value;
-    m_nCursor = m_nLength++;
-  }
-  return m_nCursor;
 }
 
 template <class T> bool VkDynArray<T>::DelCur() {
@@ -128,6 +118,6 @@ template <class T> void VkDynArray<T>::Attach(int count, T* block) {
 
 template <class T> T* VkDynArray<T>::Detach() {
   T* const block = m_block.Give();
-  Reset();
+  VkDynArray::Reset(); // not that of a member that owns what it points to: it goes with the block
   return block;
 }

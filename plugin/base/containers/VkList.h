@@ -3,9 +3,10 @@
 #pragma once
 
 #include <cassert>
+#include <type_traits>
 
+#include "plugin/base/containers/VkDListNode.h"
 #include "plugin/base/containers/VkDynArrayBase.h"
-#include "plugin/base/containers/VkListNode.h"
 
 // The cursor is on an element or, at -1, on the sentinel: behind the last and before the first element at
 // once. A walk ends there and the next step starts over, and an index out of range leads there. So InsertCur
@@ -70,28 +71,42 @@ template <class T> class ZP_EXPORT VkList : public VkDynArrayBase<T> {
   using Base::m_nCursor;
   using Base::m_nLength;
 
-  // For lists with another kind of node.
-  explicit VkList(Node* sentinel);
-  virtual Node* MakeNode(const T& value) const { return new Node(value); }
-  virtual void DropNode(Node* node) const { delete node; }
-  virtual void JoinNodes(Node* first, Node* second) const { first->next = second; }
-  virtual Node* NodeBefore(Node* node) const;
+  using DNode = VkDListNode<T>;
+
+  // The kind of all nodes, with a way back or without. It is asked for each node that is made, joined or
+  // freed, where a virtual call would cost more than the work.
+  enum class Links { kAhead, kBothWays };
+  explicit VkList(Links links);
   virtual Node* NodeAt(int index) const; // the index is valid
-  virtual bool HasTwoWayNodes() const { return false; }
   // Told after the links at the index and behind have changed, but for single insertions and deletions.
   virtual void LinksChanged(int) {}
 
-  // Frees all nodes and the sentinel; each destructor calls it that has nodes of its own kind.
-  void FreeNodes();
   template <class Beyond, class IsHole> void SortBy(Beyond beyond, IsHole isHole);
   bool KeepsValues(int, bool keep) const { return keep; } // whether SetLength keeps values at all
   static Node* NodeOf(const T* value) { return reinterpret_cast<Node*>(const_cast<T*>(value)); }
 
   Node* m_pCurrent;
-  Node* m_pSentinel;
-  Node* m_pLast; // the sentinel in an empty list
+  Node* m_pSentinel; // a DNode in lists of either kind
+  Node* m_pLast;     // the sentinel in an empty list
 
  private:
+  bool HasWayBack() const { return m_links == Links::kBothWays; }
+  template <class Kind> static void Join(Node* first, Node* second) {
+    first->next = second;
+    if constexpr (std::is_same_v<Kind, DNode>)
+      static_cast<DNode*>(second)->previous = static_cast<DNode*>(first);
+  }
+  void JoinNodes(Node* first, Node* second) const {
+    HasWayBack() ? Join<DNode>(first, second) : Join<Node>(first, second);
+  }
+  // Makes a node behind the other.
+  template <class Kind> Node* Add(Node* node, const T& value);
+  Node* AddBehind(Node* node, const T& value) {
+    return HasWayBack() ? Add<DNode>(node, value) : Add<Node>(node, value);
+  }
+  void DropNode(Node* node) const;
+  Node* NodeBefore(Node* node) const;
+
   T* ValueOf(Node* node) const { return node == m_pSentinel ? nullptr : &node->value; }
   // Makes the node current. before is the node before it where that is known.
   bool Step(Node* before, Node* node, int index) {
@@ -100,12 +115,12 @@ template <class T> class ZP_EXPORT VkList : public VkDynArrayBase<T> {
     m_nCursor = node == m_pSentinel ? -1 : index;
     return node != m_pSentinel;
   }
-  void Restore(int index); // puts the cursor there anew
-  void LinkBehind(Node* node, Node* added);
+  void Restore(int index);                // puts the cursor there anew
   void CutBehind(Node* node, int length); // makes the node the last one
   void DropChain(Node* first) const;
 
   Node* m_pBefore = nullptr; // the node before the current one, or null where it is not known
+  const Links m_links;
 };
 
 #include "plugin/base/containers/VkList.inl.h"

@@ -6,16 +6,16 @@
 
 #include "plugin/base/containers/VkList.h"
 
-template <class T> VkList<T>::VkList(Node* sentinel) : m_pCurrent(sentinel), m_pSentinel(sentinel) {
-  m_pLast = sentinel;
-  sentinel->next = sentinel;
+template <class T> VkList<T>::VkList(Links links) : m_links(links) {
+  m_pCurrent = m_pLast = m_pSentinel = new DNode;
+  Join<DNode>(m_pSentinel, m_pSentinel);
 }
 
-template <class T> VkList<T>::VkList(int count) : VkList(new Node) {
+template <class T> VkList<T>::VkList(int count) : VkList(Links::kAhead) {
   VkList::SetLength(count, true);
 }
 
-template <class T> VkList<T>::VkList(const VkList& other) : VkList(new Node) {
+template <class T> VkList<T>::VkList(const VkList& other) : VkList(Links::kAhead) {
   this->DeepCopy(other);
 }
 
@@ -25,14 +25,16 @@ template <class T> VkList<T>& VkList<T>::operator=(const VkList& other) {
 }
 
 template <class T> VkList<T>::~VkList() {
-  FreeNodes();
+  DropChain(m_pSentinel->next);
+  delete static_cast<DNode*>(m_pSentinel);
 }
 
-template <class T> void VkList<T>::FreeNodes() {
-  if (!m_pSentinel) return; // done by the class of the nodes
-  DropChain(m_pSentinel->next);
-  DropNode(m_pSentinel);
-  m_pSentinel = nullptr;
+template <class T> void VkList<T>::DropNode(Node* node) const {
+  if (HasWayBack()) {
+    delete static_cast<DNode*>(node);
+  } else {
+    delete node;
+  }
 }
 
 template <class T> void VkList<T>::DropChain(Node* first) const {
@@ -43,11 +45,13 @@ template <class T> void VkList<T>::DropChain(Node* first) const {
   }
 }
 
-template <class T> void VkList<T>::LinkBehind(Node* node, Node* added) {
-  JoinNodes(added, node->next);
-  JoinNodes(node, added);
+template <class T> template <class Kind> VkListNode<T>* VkList<T>::Add(Node* node, const T& value) {
+  Node* const added = new Kind(value);
+  Join<Kind>(added, node->next);
+  Join<Kind>(node, added);
   if (node == m_pLast) m_pLast = added;
   ++m_nLength;
+  return added;
 }
 
 template <class T> void VkList<T>::CutBehind(Node* node, int length) {
@@ -63,7 +67,7 @@ template <class T> void VkList<T>::SetLength(int count, bool keep) {
     DropChain(last->next);
     CutBehind(last, kept);
   }
-  while (m_nLength < count) LinkBehind(m_pLast, MakeNode(T()));
+  while (m_nLength < count) AddBehind(m_pLast, T());
   LinksChanged(kept);
   if (m_nCursor >= kept) Restore(m_nCursor);
 }
@@ -94,6 +98,7 @@ template <class T> VkListNode<T>* VkList<T>::NodeAt(int index) const {
 }
 
 template <class T> VkListNode<T>* VkList<T>::NodeBefore(Node* node) const {
+  if (HasWayBack()) return static_cast<DNode*>(node)->previous;
   if (node == m_pCurrent && m_pBefore) return m_pBefore;
   Node* before = m_pSentinel;
   while (before->next != node) before = before->next;
@@ -106,9 +111,7 @@ template <class T> T& VkList<T>::GetAt(int index) const {
 }
 
 template <class T> void VkList<T>::InsertAfterCur(const T& value) {
-  Node* const node = MakeNode(value);
-  LinkBehind(m_pCurrent, node);
-  Step(m_pCurrent, node, m_nCursor + 1);
+  Step(m_pCurrent, AddBehind(m_pCurrent, value), m_nCursor + 1);
 }
 
 template <class T> void VkList<T>::InsertCur(const T& value) {
@@ -122,7 +125,7 @@ template <class T> void VkList<T>::InsertHead(const T& value) {
 }
 
 template <class T> int VkList<T>::Append(const T& value) {
-  this->MoveToLast();
+  Step(nullptr, m_pLast, m_nLength - 1);
   InsertAfterCur(value);
   return m_nCursor;
 }
@@ -161,14 +164,13 @@ template <class T> int VkList<T>::Conbine(VkList& other, int from) {
   const int count = other.m_nLength - from;
   const int oldLength = m_nLength;
   other.DetachAfter(from - 1); // the chain still ends at other's sentinel
-  if (HasTwoWayNodes() == other.HasTwoWayNodes()) {
+  if (m_links == other.m_links) {
     JoinNodes(m_pLast, first);
     JoinNodes(last, m_pSentinel);
     m_pLast = last;
     m_nLength += count;
   } else {
-    for (Node* node = first; node != other.m_pSentinel; node = node->next)
-      LinkBehind(m_pLast, MakeNode(node->value));
+    for (Node* node = first; node != other.m_pSentinel; node = node->next) AddBehind(m_pLast, node->value);
     other.DropChain(first);
   }
   LinksChanged(oldLength);
@@ -215,21 +217,23 @@ template <class T> void VkList<T>::Sort(bool ascending) {
 
 // Inserting each element before the first one beyond it is a stable sort, done as one over the nodes. A hole,
 // beyond which nothing is, would stay behind all elements before it and be passed by what they stand beyond:
-// so it sorts as if it were equal to the most beyond of the elements before it, or first of all.
+// so it sorts as if it were equal to the most beyond of the elements before it, or stays at the head.
 template <class T>
 template <class Beyond, class IsHole>
 void VkList<T>::SortBy(Beyond beyond, IsHole isHole) {
+  Node* head = m_pSentinel; // the last of the holes at the head
+  while (head->next != m_pSentinel && isHole(head->next->value)) head = head->next;
   using Entry = vk::SortEntry<T, Node>;
   std::vector<Entry> entries;
   entries.reserve(static_cast<std::size_t>(m_nLength));
   const T* most = nullptr;
-  for (Node* node = m_pSentinel->next; node != m_pSentinel; node = node->next) {
+  for (Node* node = head->next; node != m_pSentinel; node = node->next) {
     const bool hole = isHole(node->value);
     if (!hole && (!most || beyond(node->value, *most))) most = &node->value;
-    entries.push_back({hole ? most : &node->value, node});
+    entries.emplace_back(hole ? *most : node->value, node);
   }
   std::stable_sort(entries.begin(), entries.end(), vk::EntryBefore<Beyond>{beyond});
-  m_pLast = m_pSentinel;
+  m_pLast = head;
   for (const Entry& entry : entries) {
     JoinNodes(m_pLast, entry.node);
     m_pLast = entry.node;

@@ -8,8 +8,8 @@
 template <class T> class ZP_EXPORT VkXList : public VkDList<T> {
  public:
   using Base = VkDList<T>;
+  using typename Base::DNode;
   using typename Base::Node;
-  using DNode = VkDListNode<T>;
 
   // So many elements T(), elements in a group (at least 1), allocation unit of the index.
   explicit VkXList(int count = 0, int group = 64, int allocUnit = 10);
@@ -59,9 +59,12 @@ template <class T> VkXList<T>& VkXList<T>::operator=(const VkXList& other) {
 
 template <class T> void VkXList<T>::InsertAfterCur(const T& value) {
   Base::InsertAfterCur(value);
-  for (int k = FirstGroupFrom(m_nCursor); k < m_index.GetLength(); ++k)
-    m_index.GetAt(k) = m_index.GetAt(k)->previous;
-  if ((m_nLength - 1) % m_nGroup == 0) m_index.Append(static_cast<DNode*>(m_pLast));
+  if (m_nCursor < m_nLength - 1) {
+    for (int k = FirstGroupFrom(m_nCursor); k < m_index.GetLength(); ++k)
+      m_index.GetAt(k) = m_index.GetAt(k)->previous;
+  }
+  const std::int64_t covered = std::int64_t{m_index.GetLength()} * m_nGroup; // cheaper than a remainder
+  if (covered < m_nLength) m_index.Append(static_cast<DNode*>(m_pLast));
 }
 
 template <class T> bool VkXList<T>::DelCur() {
