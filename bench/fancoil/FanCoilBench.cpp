@@ -1,9 +1,6 @@
 // The fan-coil catalogue with 200 makers and 20,000 models: reading and saving it beside pugixml with the
 // same tree, and how the import of an old catalogue grows.
-#include <benchmark/benchmark.h>
-
 #include <filesystem>
-#include <map>
 #include <pugixml.hpp>
 #include <string>
 #include <type_traits>
@@ -11,6 +8,7 @@
 
 #include <unistd.h>
 
+#include "bench/RatioReporter.h"
 #include "host/afx/AtomicFile.h"
 #include "host/afx/Paths.h"
 #include "plugin/base/CIDPEx.h"
@@ -230,44 +228,17 @@ BENCHMARK(PugixmlSave)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(CatalogueImport)->Arg(500)->Arg(1000)->Arg(2000)->Unit(benchmark::kMillisecond)->Iterations(1);
 BENCHMARK(PugixmlImport)->Arg(500)->Arg(1000)->Arg(2000)->Unit(benchmark::kMillisecond)->Iterations(1);
 
-// Prints the table, and at the end what the run is for: catalogue against pugixml, in processor time, which
-// other programs on the machine do not stretch, except where the disk is waited for.
-class RatioReporter : public benchmark::ConsoleReporter {
- public:
-  void ReportRuns(const std::vector<Run>& runs) override {
-    ConsoleReporter::ReportRuns(runs);
-    for (const Run& run : runs) {
-      // The median is there when the run was repeated, and comes after the single ones.
-      if (run.run_type != Run::RT_Iteration && run.aggregate_name != "median") continue;
-      const bool waits = run.run_name.time_type == "real_time";
-      m_times[run.run_name.function_name + run.run_name.args] =
-          waits ? run.GetAdjustedRealTime() : run.GetAdjustedCPUTime();
-    }
-  }
-  void Finalize() override {
-    for (const std::string action : {"Read", "Save", "Import500", "Import1000", "Import2000"})
-      PrintRatio(action, "Catalogue" + action, "Pugixml" + action);
-    PrintRatio("Import 2000 to 1000", "CatalogueImport2000", "CatalogueImport1000");
-    PrintRatio("Import 1000 to 500", "CatalogueImport1000", "CatalogueImport500");
-  }
-
- private:
-  void PrintRatio(const std::string& title, const std::string& above, const std::string& below) {
-    const auto a = m_times.find(above);
-    const auto b = m_times.find(below);
-    if (a == m_times.end() || b == m_times.end()) return;
-    GetOutputStream() << "ratio " << title << ": " << a->second / b->second << '\n';
-  }
-
-  std::map<std::string, double> m_times;
-};
+std::vector<bench::Ratio> Ratios() {
+  std::vector<bench::Ratio> ratios;
+  for (const std::string action : {"Read", "Save", "Import/500", "Import/1000", "Import/2000"})
+    ratios.push_back({action, "Catalogue" + action, "Pugixml" + action});
+  ratios.push_back({"Import 1000 to 500", "CatalogueImport/1000", "CatalogueImport/500"});
+  ratios.push_back({"Import 2000 to 1000", "CatalogueImport/2000", "CatalogueImport/1000"});
+  return ratios;
+}
 
 } // namespace
 
 int main(int argc, char** argv) {
-  benchmark::Initialize(&argc, argv);
-  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
-  RatioReporter reporter;
-  benchmark::RunSpecifiedBenchmarks(&reporter);
-  return 0;
+  return bench::RunWithRatios(argc, argv, Ratios());
 }

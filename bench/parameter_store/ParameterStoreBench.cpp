@@ -1,15 +1,13 @@
 // A pipe table of fifty thousand rows in the parameter store beside the same tree in pugixml, in one run:
 // from memory to memory, and through files with the same durable write behind both.
-#include <benchmark/benchmark.h>
-
 #include <filesystem>
-#include <map>
 #include <pugixml.hpp>
 #include <string>
 #include <vector>
 
 #include <unistd.h>
 
+#include "bench/RatioReporter.h"
 #include "host/afx/AtomicFile.h"
 #include "plugin/base/CIDPEx.h"
 
@@ -166,40 +164,15 @@ BENCHMARK(PugixmlOpenFile)->Unit(benchmark::kMillisecond);
 BENCHMARK(StoreSaveFile)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(PugixmlSaveFile)->Unit(benchmark::kMillisecond)->UseRealTime();
 
-// Prints the table, and at the end what the run is for: store against pugixml.
-class RatioReporter : public benchmark::ConsoleReporter {
- public:
-  void ReportRuns(const std::vector<Run>& runs) override {
-    ConsoleReporter::ReportRuns(runs);
-    for (const Run& run : runs) {
-      // The median is there when the run was repeated, and comes after the single ones.
-      if (run.run_type == Run::RT_Iteration || run.aggregate_name == "median") {
-        // Processor time, which other programs on the machine do not stretch, except where the disk is waited
-        // for.
-        const bool waits = run.run_name.time_type == "real_time";
-        m_times[run.run_name.function_name] = waits ? run.GetAdjustedRealTime() : run.GetAdjustedCPUTime();
-      }
-    }
-  }
-  void Finalize() override {
-    for (const std::string action : {"LoadMemory", "SaveMemory", "OpenFile", "SaveFile"}) {
-      const auto store = m_times.find("Store" + action);
-      const auto peer = m_times.find("Pugixml" + action);
-      if (store == m_times.end() || peer == m_times.end()) continue;
-      GetOutputStream() << "ratio " << action << ": " << store->second / peer->second << '\n';
-    }
-  }
-
- private:
-  std::map<std::string, double> m_times;
-};
+std::vector<bench::Ratio> Ratios() {
+  std::vector<bench::Ratio> ratios;
+  for (const std::string action : {"LoadMemory", "SaveMemory", "OpenFile", "SaveFile"})
+    ratios.push_back({action, "Store" + action, "Pugixml" + action});
+  return ratios;
+}
 
 } // namespace
 
 int main(int argc, char** argv) {
-  benchmark::Initialize(&argc, argv);
-  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
-  RatioReporter reporter;
-  benchmark::RunSpecifiedBenchmarks(&reporter);
-  return 0;
+  return bench::RunWithRatios(argc, argv, Ratios());
 }
