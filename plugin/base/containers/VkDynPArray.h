@@ -12,7 +12,7 @@ template <class T> class ZP_EXPORT VkDynPArray : public VkOwning<T, VkDynArray<T
   VkDynPArray() = default;
 
   // By the pointed-to values. Null slots keep their places.
-  void SortEx(bool ascending) requires std::totally_ordered<T> {
+  template <std::totally_ordered U = T> void SortEx(bool ascending) {
     if (ascending) {
       this->SortBy(vk::ByValue<vk::Ascending>(), vk::NullSlot());
     } else {

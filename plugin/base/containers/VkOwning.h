@@ -6,6 +6,11 @@
 
 #include "plugin/base/containers/VkDynArrayBase.h"
 
+namespace vk {
+template <class T>
+concept Copied = std::equality_comparable<T> && std::copy_constructible<T>;
+} // namespace vk
+
 // The pointed-to objects are deleted through T, whose destructor is virtual where they are of derived
 // classes. Null slots are legal. An object goes with its slot (DelCur, a shrinking length, Reset, the
 // destructor) or before it (Release); the TakeOff forms hand it to the caller instead. Writing another
@@ -52,17 +57,19 @@ template <class T, class Storage> class ZP_EXPORT VkOwning : public Storage {
   void DeepCopy(const VkDynArrayBase<T*>& other);
 
   // As the operations without Data in their names, by the pointed-to values; null slots are passed over.
-  int FindData(const T& value, int from = 0, int to = -1) const requires std::equality_comparable<T>;
-  bool FindDataTo(const T& value, int from = 0) requires std::equality_comparable<T> {
+  // There for a T that can be compared (and copied); templates, so that others can be instantiated without
+  // them.
+  template <std::equality_comparable U = T> int FindData(const T& value, int from = 0, int to = -1) const;
+  template <std::equality_comparable U = T> bool FindDataTo(const T& value, int from = 0) {
     const int index = FindData(value, from);
     return index >= 0 && this->MoveTo(index);
   }
-  int FindDataDel(const T& value) requires std::equality_comparable<T>;
+  template <std::equality_comparable U = T> int FindDataDel(const T& value);
   // Append and insert a new copy of the value.
-  int FindDataOrAppend(const T& value) requires std::equality_comparable<T> && std::copy_constructible<T>;
-  int FindDataOrInsertHead(const T& value) requires std::equality_comparable<T> && std::copy_constructible<T>;
-  int BFindData(const T& value, int from = 0, int to = -1) const requires std::totally_ordered<T>;
-  bool BFindDataTo(const T& value, int from = 0, int to = -1) requires std::totally_ordered<T>;
+  template <vk::Copied U = T> int FindDataOrAppend(const T& value);
+  template <vk::Copied U = T> int FindDataOrInsertHead(const T& value);
+  template <std::totally_ordered U = T> int BFindData(const T& value, int from = 0, int to = -1) const;
+  template <std::totally_ordered U = T> bool BFindDataTo(const T& value, int from = 0, int to = -1);
 
  protected:
   using Storage::m_nCursor;

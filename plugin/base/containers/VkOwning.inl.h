@@ -100,8 +100,8 @@ template <class T, class Storage> int VkOwning<T, Storage>::FindDel(T* object) {
 }
 
 template <class T, class Storage>
-int VkOwning<T, Storage>::FindData(const T& value, int from,
-                                   int to) const requires std::equality_comparable<T> {
+template <std::equality_comparable U>
+int VkOwning<T, Storage>::FindData(const T& value, int from, int to) const {
   if (!this->Clip(from, to)) return -1;
   T** slot = &this->GetAt(from);
   for (int index = from; index <= to; ++index, slot = this->GetNext(slot)) {
@@ -111,7 +111,8 @@ int VkOwning<T, Storage>::FindData(const T& value, int from,
 }
 
 template <class T, class Storage>
-int VkOwning<T, Storage>::FindDataDel(const T& value) requires std::equality_comparable<T> {
+template <std::equality_comparable U>
+int VkOwning<T, Storage>::FindDataDel(const T& value) {
   // The argument may be one of the objects: that one goes last.
   std::unique_ptr<T> argument;
   return this->DeleteEach([&](T*& slot) {
@@ -123,15 +124,15 @@ int VkOwning<T, Storage>::FindDataDel(const T& value) requires std::equality_com
 }
 
 template <class T, class Storage>
-int VkOwning<T, Storage>::FindDataOrAppend(
-    const T& value) requires std::equality_comparable<T> && std::copy_constructible<T> {
+template <vk::Copied U>
+int VkOwning<T, Storage>::FindDataOrAppend(const T& value) {
   const int index = FindData(value);
   return index >= 0 ? index : this->Append(new T(value));
 }
 
 template <class T, class Storage>
-int VkOwning<T, Storage>::FindDataOrInsertHead(
-    const T& value) requires std::equality_comparable<T> && std::copy_constructible<T> {
+template <vk::Copied U>
+int VkOwning<T, Storage>::FindDataOrInsertHead(const T& value) {
   const int index = FindData(value);
   if (index >= 0) return index;
   this->InsertHead(new T(value));
@@ -139,7 +140,8 @@ int VkOwning<T, Storage>::FindDataOrInsertHead(
 }
 
 template <class T, class Storage>
-int VkOwning<T, Storage>::BFindData(const T& value, int from, int to) const requires std::totally_ordered<T> {
+template <std::totally_ordered U>
+int VkOwning<T, Storage>::BFindData(const T& value, int from, int to) const {
   if (!this->Clip(from, to)) return -1;
   const vk::Place place = vk::BinarySearch(
       from, to, [&](int index) { return vk::OrderOf(value, GetPData(index)); },
@@ -148,7 +150,8 @@ int VkOwning<T, Storage>::BFindData(const T& value, int from, int to) const requ
 }
 
 template <class T, class Storage>
-bool VkOwning<T, Storage>::BFindDataTo(const T& value, int from, int to) requires std::totally_ordered<T> {
+template <std::totally_ordered U>
+bool VkOwning<T, Storage>::BFindDataTo(const T& value, int from, int to) {
   return this->BFindToBy(
       from, to, [&](T* element) { return vk::OrderOf(value, *element); },
       [&](int index) { return IsEmptyData(index); });
