@@ -24,6 +24,8 @@ def _is_allowed(path, target):
 
 
 def _check_ours(path, target, read):
+    if target in rules.GENERATED:
+        return None if path.startswith(rules.GENERATED[target]) else f'"{target}" is not for this folder'
     text = read(target)
     if text is None:
         return f'"{target}" is no file of the repository; includes are written from its root'

@@ -44,6 +44,8 @@ OUTSIDE = {
     "fuzz/": ["host/", "plugin/", "fuzz/"],
     "tools/": ["host/", "plugin/", "tools/"],
 }
+# Headers that the build writes, and who may include them.
+GENERATED = {"ZpPaths.h": ("tests/", "bench/")}
 PUBLIC_HEADERS_ONLY = ("plugins/", "plugin/")
 PUBLIC_MARK = "ZP_EXPORT"
 
