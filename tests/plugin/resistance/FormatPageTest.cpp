@@ -1,6 +1,7 @@
 // The page on the file tells every column and every flow as the program has them.
 #include <cmath>
 
+#include "ZpPaths.h"
 #include "tests/plugin/resistance/ResistanceFixture.h"
 
 namespace {

@@ -1,4 +1,5 @@
 // VacCal.xml as shipped, held against the tables of its sources, and the pictures that it names.
+#include "ZpPaths.h"
 #include "plugin/resistance/CZPLocalResistanceSettings.h"
 #include "tests/plugin/resistance/ResistanceFixture.h"
 #include "tests/support/ShippedTable.h"

@@ -2,6 +2,7 @@
 // local resistances in hot-water and steam heating. Each sum is added up by hand in its comment.
 #include <map>
 
+#include "ZpPaths.h"
 #include "plugin/resistance/CZPLocalResistanceSettings.h"
 #include "tests/plugin/resistance/ResistanceFixture.h"
 
