@@ -233,7 +233,7 @@ Acad::ErrorStatus AcDbDatabase::addAcDbObject(AcDbObject* object, const AcDbObje
   if (!object) return Acad::eNullObjectPointer;
   if (object->database()) return Acad::eAlreadyInDb;
   if (handle.isNull() && !m_loading) handle = AcDbHandle(m_nextHandle);
-  if (hasHandle(handle)) return Acad::eDuplicateKey;
+  if (!handle.isNull() && hasHandle(handle)) return Acad::eDuplicateKey;
   m_stubs.push_back({AcDbHandle(), this, object});
   object->setStub(&m_stubs.back());
   giveHandle(*object, handle);
@@ -246,9 +246,8 @@ Acad::ErrorStatus AcDbDatabase::addAcDbObject(AcDbObject* object, const AcDbObje
 
 bool AcDbDatabase::giveHandle(AcDbObject& object, AcDbHandle handle) {
   AcDbStub* stub = object.objectId().stub();
-  if (handle.isNull() || !stub->handle.isNull() || hasHandle(handle)) return false;
+  if (handle.isNull() || !stub->handle.isNull() || !m_byHandle.insert(handle, stub)) return false;
   stub->handle = handle;
-  m_byHandle.emplace(handle.value(), stub);
   reserveHandle(handle);
   return true;
 }
@@ -268,9 +267,9 @@ Acad::ErrorStatus AcDbDatabase::addToObjects(AcDbObject* object, const AcDbObjec
 
 Acad::ErrorStatus AcDbDatabase::getAcDbObjectId(AcDbObjectId& id, bool, const AcDbHandle& handle) const {
   if (handle.isNull()) return Acad::eNullHandle;
-  const auto found = m_byHandle.find(handle.value());
-  if (found == m_byHandle.end()) return Acad::eUnknownHandle;
-  id = AcDbObjectId(found->second);
+  AcDbStub* const found = m_byHandle.find(handle);
+  if (!found) return Acad::eUnknownHandle;
+  id = AcDbObjectId(found);
   return Acad::eOk;
 }
 

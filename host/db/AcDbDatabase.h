@@ -5,11 +5,11 @@
 #include "host/db/AcDbHeader.h"
 #include "host/db/AcDbObject.h"
 #include "host/db/DrawingForm.h"
+#include "host/db/HandleIndex.h"
 #include "host/db/UndoHistory.h"
 
 #include <deque>
 #include <memory>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -79,7 +79,7 @@ class AcDbDatabase {
   // addAcDbObject, and the object is filed in the OBJECTS section.
   Acad::ErrorStatus addToObjects(AcDbObject* object, const AcDbObjectId& owner, AcDbHandle handle = {});
   Acad::ErrorStatus getAcDbObjectId(AcDbObjectId& id, bool createIfNotFound, const AcDbHandle& handle) const;
-  bool hasHandle(AcDbHandle handle) const { return m_byHandle.contains(handle.value()); }
+  bool hasHandle(AcDbHandle handle) const { return m_byHandle.find(handle) != nullptr; }
   AcDbHandle handseed() const { return AcDbHandle(m_nextHandle); }
   void reserveHandle(AcDbHandle handle);
   std::size_t objectCount() const { return m_stubs.size(); }
@@ -145,7 +145,7 @@ class AcDbDatabase {
   void createTables();
 
   std::deque<AcDbStub> m_stubs;
-  std::unordered_map<std::uint64_t, AcDbStub*> m_byHandle;
+  HandleIndex m_byHandle;
   std::uint64_t m_nextHandle = 1;
   std::vector<AcDbObjectId> m_tables;
   std::vector<AcDbObjectId> m_objects;

@@ -70,7 +70,35 @@ dxf::RecordScanner::RecordScanner(std::string_view text)
   m_preamble = m_text.substr(0, static_cast<std::size_t>(preambleEnd - m_text.data()));
 }
 
+// A group code as nearly every line has it, blanks and up to four digits. Gives the start of the value's
+// line, null for everything else.
+const char* dxf::RecordScanner::readPlainCode(int& code) const {
+  const char* at = m_at;
+  while (at < m_end && *at == ' ') ++at;
+  const char* const first = at;
+  const char* const last = m_end - at > 5 ? at + 5 : m_end;
+  for (code = 0; at < last; ++at) {
+    const unsigned digit = static_cast<unsigned>(*at) - '0';
+    if (digit > 9) break;
+    code = code * 10 + static_cast<int>(digit);
+  }
+  const bool plain = at > first && at < last && *at == '\n' && at + 1 < m_end;
+  return plain ? at + 1 : nullptr;
+}
+
 bool dxf::RecordScanner::readTag(DxfTag& tag) {
+  const char* const plain = readPlainCode(tag.code);
+  if (!plain && !readOddCode(tag.code)) return false;
+  if (plain) m_at = plain;
+  const auto* valueEnd =
+      static_cast<const char*>(std::memchr(m_at, '\n', static_cast<std::size_t>(m_end - m_at)));
+  tag.value = {m_at, static_cast<std::size_t>((valueEnd ? valueEnd : m_end) - m_at)};
+  m_at = valueEnd ? valueEnd + 1 : m_end;
+  return true;
+}
+
+// A code line of any form, up to the start of the value's line.
+bool dxf::RecordScanner::readOddCode(int& code) {
   const char* const start = m_at;
   const auto* codeEnd =
       static_cast<const char*>(std::memchr(m_at, '\n', static_cast<std::size_t>(m_end - m_at)));
@@ -78,7 +106,7 @@ bool dxf::RecordScanner::readTag(DxfTag& tag) {
   const char* last = codeEnd ? codeEnd : m_end;
   while (first < last && (*first == ' ' || *first == '\t')) ++first;
   while (first < last && (last[-1] == ' ' || last[-1] == '\t')) --last;
-  const auto [end, error] = std::from_chars(first, last, tag.code);
+  const auto [end, error] = std::from_chars(first, last, code);
   if (error != std::errc{} || end != last) {
     if (first == last &&
         std::all_of(m_at, m_end, [](char c) { return c == ' ' || c == '\n' || c == '\t'; })) {
@@ -92,15 +120,11 @@ bool dxf::RecordScanner::readTag(DxfTag& tag) {
   }
   if (!codeEnd || codeEnd + 1 == m_end) {
     CString problem;
-    problem.Format(L"文件在组码 %d 之后意外结束，缺少它的值", tag.code);
+    problem.Format(L"文件在组码 %d 之后意外结束，缺少它的值", code);
     fail(start, problem);
     return false;
   }
-  const char* value = codeEnd + 1;
-  const auto* valueEnd =
-      static_cast<const char*>(std::memchr(value, '\n', static_cast<std::size_t>(m_end - value)));
-  tag.value = {value, static_cast<std::size_t>((valueEnd ? valueEnd : m_end) - value)};
-  m_at = valueEnd ? valueEnd + 1 : m_end;
+  m_at = codeEnd + 1;
   return true;
 }
 

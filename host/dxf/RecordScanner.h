@@ -40,6 +40,8 @@ class RecordScanner {
 
  private:
   bool readTag(DxfTag& tag);
+  const char* readPlainCode(int& code) const;
+  bool readOddCode(int& code);
   void fail(const char* place, const CString& problem);
 
   std::string_view m_text;
