@@ -33,9 +33,11 @@ int FollowLinks(std::string& path) {
   return ELOOP;
 }
 
+} // namespace
+
 // A new file beside the target, removed again unless it was renamed over it. Its name is short whatever the
 // target's, so that a target of the longest allowed name can be written too.
-class TemporaryFile {
+class AtomicFileWriter::TemporaryFile {
  public:
   explicit TemporaryFile(const std::string& folder) {
     static std::atomic<unsigned> counter{0};
@@ -54,18 +56,16 @@ class TemporaryFile {
 
   int Error() const { return m_error; } // of its creation
 
-  // Puts the bytes onto the disk, with owner and permissions of the old file if there is one. 0 or an errno.
-  int Write(std::string_view bytes, const struct stat* old) {
-    if (old) {
-      // Only root may give a file away; for anybody else the owner is his own already or cannot be kept.
-      [[maybe_unused]] const int kept = ::fchown(m_file.Get(), old->st_uid, old->st_gid);
-      if (::fchmod(m_file.Get(), old->st_mode & 07777) != 0) return errno;
-    }
-    if (const int error = WriteAll(m_file.Get(), bytes)) return error;
-    if (::fsync(m_file.Get()) != 0) return errno;
-    return m_file.Close();
-  }
+  // Each gives 0 or an errno.
 
+  int TakeOwnerAndPermissions(const struct stat& old) {
+    // Only root may give a file away; for anybody else the owner is his own already or cannot be kept.
+    [[maybe_unused]] const int kept = ::fchown(m_file.Get(), old.st_uid, old.st_gid);
+    return ::fchmod(m_file.Get(), old.st_mode & 07777) == 0 ? 0 : errno;
+  }
+  int Write(std::string_view bytes) { return WriteAll(m_file.Get(), bytes); }
+  // Puts everything onto the disk.
+  int Finish() { return ::fsync(m_file.Get()) == 0 ? m_file.Close() : errno; }
   int RenameOver(const std::string& target) {
     if (::rename(m_path.c_str(), target.c_str()) != 0) return errno;
     m_exists = false;
@@ -79,29 +79,57 @@ class TemporaryFile {
   bool m_exists = false;
 };
 
-} // namespace
+AtomicFileWriter::AtomicFileWriter(const CString& path) : m_path(path), m_target(NativePath(path)) {
+  Open();
+}
 
-FileResult WriteFileAtomically(const CString& path, std::string_view bytes) {
-  std::string target = NativePath(path);
-  if (const int error = FollowLinks(target)) return FileFailure(kWriting, path, error);
+AtomicFileWriter::~AtomicFileWriter() = default;
+
+void AtomicFileWriter::Fail(int errnoValue) {
+  m_result = FileFailure(kWriting, m_path, errnoValue);
+}
+
+void AtomicFileWriter::Open() {
+  if (const int error = FollowLinks(m_target)) return Fail(error);
 
   struct stat old {};
-  const bool exists = ::stat(target.c_str(), &old) == 0;
-  if (!exists && errno != ENOENT) return FileFailure(kWriting, path, errno);
-  if (exists && S_ISDIR(old.st_mode)) return FileFailure(kWriting, path, EISDIR);
-  if (exists && !S_ISREG(old.st_mode)) return FileFailure(kWriting, path, L"不是普通文件");
+  const bool exists = ::stat(m_target.c_str(), &old) == 0;
+  if (!exists && errno != ENOENT) return Fail(errno);
+  if (exists && S_ISDIR(old.st_mode)) return Fail(EISDIR);
+  if (exists && !S_ISREG(old.st_mode)) {
+    m_result = FileFailure(kWriting, m_path, L"不是普通文件");
+    return;
+  }
   // A rename needs no right to the old file; one that is marked read-only is to stay nevertheless.
-  if (exists && ::faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0)
-    return FileFailure(kWriting, path, errno);
+  if (exists && ::faccessat(AT_FDCWD, m_target.c_str(), W_OK, AT_EACCESS) != 0) return Fail(errno);
 
-  const std::string folder = FolderOf(target);
-  TemporaryFile temporary(folder);
-  if (temporary.Error()) return FileFailure(kWriting, path, temporary.Error());
-  if (const int error = temporary.Write(bytes, exists ? &old : nullptr))
-    return FileFailure(kWriting, path, error);
-  if (const int error = temporary.RenameOver(target)) return FileFailure(kWriting, path, error);
-  SyncFolder(folder);
-  return {};
+  m_temporary = std::make_unique<TemporaryFile>(FolderOf(m_target));
+  if (m_temporary->Error()) return Fail(m_temporary->Error());
+  if (!exists) return;
+  if (const int error = m_temporary->TakeOwnerAndPermissions(old)) Fail(error);
+}
+
+bool AtomicFileWriter::Write(std::string_view bytes) {
+  if (!m_result.ok) return false;
+  if (const int error = m_temporary->Write(bytes)) Fail(error);
+  return m_result.ok;
+}
+
+FileResult AtomicFileWriter::Commit() {
+  if (!m_result.ok) return m_result;
+  int error = m_temporary->Finish();
+  if (!error) error = m_temporary->RenameOver(m_target);
+  if (error)
+    Fail(error);
+  else
+    SyncFolder(FolderOf(m_target));
+  return m_result;
+}
+
+FileResult WriteFileAtomically(const CString& path, std::string_view bytes) {
+  AtomicFileWriter file(path);
+  file.Write(bytes);
+  return file.Commit();
 }
 
 FileResult ReadWholeFile(const CString& path, std::string& out, std::uint64_t limit) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -14,6 +15,31 @@ namespace afx {
 // file stays, and on any failure it stays for good. Permissions of the old file are kept; a symbolic link is
 // followed.
 FileResult WriteFileAtomically(const CString& path, std::string_view bytes);
+
+// The same for content that comes in pieces. Until Commit, and for good without it, the old file stays.
+class AtomicFileWriter {
+ public:
+  explicit AtomicFileWriter(const CString& path);
+  ~AtomicFileWriter();
+  AtomicFileWriter(const AtomicFileWriter&) = delete;
+  AtomicFileWriter& operator=(const AtomicFileWriter&) = delete;
+
+  // False after a failure, of this piece or one before it; Commit tells which.
+  bool Write(std::string_view bytes);
+  // Puts the new file in the old one's place. Once.
+  FileResult Commit();
+
+ private:
+  class TemporaryFile;
+
+  void Open();
+  void Fail(int errnoValue);
+
+  CString m_path;
+  std::string m_target; // native, behind symbolic links
+  FileResult m_result;
+  std::unique_ptr<TemporaryFile> m_temporary;
+};
 
 constexpr std::uint64_t kDefaultReadLimit = 1024ull * 1024 * 1024;
 

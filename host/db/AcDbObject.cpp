@@ -126,10 +126,10 @@ void AcDbObject::dxfOutHead(DxfRecordEditor& editor, std::string_view type, int 
   editor.type(type);
   if (!m_stub) return; // no handle outside a drawing
   // Old drawings may go without handles: what was read without one stays without.
-  if (newRecord || database()->form().subclassMarkers()) {
-    editor.handle(handleCode, handle());
-    if (editor.subclassMarkers() && m_owner) writeOwner(editor, m_owner->handle);
-  }
+  const bool old = !database()->form().subclassMarkers();
+  if (old && !newRecord && !editor.has(handleCode)) return;
+  editor.handle(handleCode, handle());
+  if (editor.subclassMarkers() && m_owner) writeOwner(editor, m_owner->handle);
 }
 
 // Drawings before R2000 do without owners.

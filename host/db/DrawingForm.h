@@ -12,6 +12,7 @@ struct DrawingForm {
   // As $ACADVER says, "AC1009" to "AC1032". A file without a header goes by the rules of AC1009.
   std::string version = "AC1027";
   bool hasVersion = true;
+  std::string saveVersion; // that SAVEAS chose; empty: the version above
   bool crlf = true;
   bool binary = false;
   // Whether text in the file is UTF-8; otherwise it is in codePage (the DXF name, such as "ANSI_936").

@@ -150,6 +150,10 @@ void DxfRecordEditor::real(int code, double value) {
   put(code, afx::ShortestDouble(value));
 }
 
+bool DxfRecordEditor::has(int code) const {
+  return find(code) != npos;
+}
+
 std::optional<double> DxfRecordEditor::realAt(int code) const {
   const std::size_t at = find(code);
   return at == npos || m_items[at].raw.empty() ? std::nullopt : dxf::toReal(m_items[at].value);

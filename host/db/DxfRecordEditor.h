@@ -41,6 +41,8 @@ class DxfRecordEditor {
   void handle(int code, AcDbHandle value, AcDbHandle absent);
   void name(int code, const CString& value, const wchar_t* absent);
 
+  // Whether the scope has the field.
+  bool has(int code) const;
   // The number that stands under the code now.
   std::optional<double> realAt(int code) const;
   std::optional<long long> integerAt(int code) const;

@@ -3,6 +3,7 @@
 #include "host/afx/AtomicFile.h"
 #include "host/dxf/BinaryDxf.h"
 #include "host/dxf/DrawingReader.h"
+#include "host/dxf/DrawingWriter.h"
 #include "host/dxf/FileEncoding.h"
 
 namespace {
@@ -55,4 +56,54 @@ dxf::ReadReport dxf::ReadDrawingBytes(std::string bytes, const CString& name, Ac
   if (!trouble.IsEmpty()) decoded.notes.push_back(trouble);
   for (const CString& note : decoded.notes) report.repairs.insert(report.repairs.begin(), {0, -1, note});
   return report;
+}
+
+namespace {
+
+// With the version that the options leave open.
+dxf::WriteOptions completed(const AcDbDatabase& database, dxf::WriteOptions options) {
+  if (options.version.empty()) options.version = database.form().saveVersion;
+  return options;
+}
+
+} // namespace
+
+dxf::WriteReport dxf::WriteDrawing(AcDbDatabase& database, const CString& path, const WriteOptions& options) {
+  WriteReport report;
+  const WriteOptions wanted = completed(database, options);
+  database.completeBlocks();
+  afx::AtomicFileWriter file(path);
+  DrawingWriter writer(database, wanted, [&](std::string_view bytes) { return file.Write(bytes); });
+  writer.write();
+  report.losses = writer.losses();
+  if (writer.isCancelled()) {
+    report.error = path + L"：存图已取消";
+    return report;
+  }
+  const afx::FileResult result = file.Commit();
+  report.ok = result.ok;
+  report.error = result.message;
+  return report;
+}
+
+std::string dxf::WriteDrawingBytes(AcDbDatabase& database, std::vector<CString>* losses,
+                                   const WriteOptions& options) {
+  const WriteOptions wanted = completed(database, options);
+  database.completeBlocks();
+  std::string bytes;
+  DrawingWriter writer(database, wanted, [&](std::string_view piece) {
+    bytes += piece;
+    return true;
+  });
+  writer.write();
+  if (losses) *losses = writer.losses();
+  return bytes;
+}
+
+std::vector<CString> dxf::LossesInVersion(AcDbDatabase& database, const std::string& version) {
+  database.completeBlocks();
+  const WriteOptions options{version, {}};
+  DrawingWriter writer(database, options, [](std::string_view) { return true; });
+  writer.write();
+  return writer.losses();
 }

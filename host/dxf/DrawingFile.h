@@ -20,11 +20,13 @@ struct Repair {
   CString what;         // a sentence for the user
 };
 
+// Told how much of a long reading or writing is done, 0 to 1; giving false cancels it.
+using Progress = std::function<bool(double)>;
+
 struct ReadOptions {
   // Take what can be saved of a file that is cut off or broken, instead of refusing it. Each loss is listed.
   bool recover = false;
-  // Told how much is done, 0 to 1; giving false cancels the reading.
-  std::function<bool(double)> progress;
+  Progress progress;
 };
 
 struct ReadReport {
@@ -39,15 +41,25 @@ ReadReport ReadDrawing(const CString& path, AcDbDatabase& database, const ReadOp
 ReadReport ReadDrawingBytes(std::string bytes, const CString& name, AcDbDatabase& database,
                             const ReadOptions& options = {});
 
+struct WriteOptions {
+  // One of writableVersions() by its mark (FileVersion.h); empty: the one chosen for the drawing with SAVEAS
+  // (DrawingForm::saveVersion), or else the one that was read.
+  std::string version;
+  Progress progress;
+};
+
 struct WriteReport {
   bool ok = false;
   CString error;
   std::vector<CString> losses; // what the drawing has and its file version can't hold, a sentence each
 };
 
-// Writes atomically: on failure the old file is as it was.
-WriteReport WriteDrawing(AcDbDatabase& database, const CString& path);
-std::string WriteDrawingBytes(AcDbDatabase& database, std::vector<CString>* losses = nullptr);
+// Writes atomically: on failure, and when cancelled, the old file is as it was.
+WriteReport WriteDrawing(AcDbDatabase& database, const CString& path, const WriteOptions& options = {});
+std::string WriteDrawingBytes(AcDbDatabase& database, std::vector<CString>* losses = nullptr,
+                              const WriteOptions& options = {});
+// What would be lost by writing in that version, without writing anything.
+std::vector<CString> LossesInVersion(AcDbDatabase& database, const std::string& version);
 
 // Fills a fresh AcDbDatabase(false) with an empty metric drawing that other programs open without complaint.
 void BuildNewDrawing(AcDbDatabase& database);

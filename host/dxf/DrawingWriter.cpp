@@ -7,6 +7,7 @@
 #include "host/db/DxfText.h"
 #include "host/dxf/DrawingFile.h"
 #include "host/dxf/FileEncoding.h"
+#include "host/dxf/FileVersion.h"
 
 #include <algorithm>
 #include <set>
@@ -15,6 +16,7 @@
 namespace {
 
 constexpr std::string_view kSectionOrder[] = {"HEADER", "CLASSES", "TABLES", "BLOCKS", "ENTITIES", "OBJECTS"};
+constexpr std::size_t kObjectsBetweenProgress = 4096;
 
 std::string sectionHead(std::string_view name) {
   return DxfRecordEditor::tag(0, "SECTION") + DxfRecordEditor::tag(2, name);
@@ -24,48 +26,48 @@ const AcDbBlockTableRecord* blockOf(const AcDbObjectId& id) {
   return AcDbBlockTableRecord::cast(id.object());
 }
 
+// The form of a file in that version; an empty one is the version that was read.
+DrawingForm formFor(const DrawingForm& read, std::string_view version) {
+  DrawingForm form = read;
+  if (version.empty() || version == read.version) return form;
+  form.version = version;
+  form.utf8 = version >= dxf::kR2007;
+  if (form.codePage.empty()) form.codePage = dxf::kDefaultCodePage;
+  return form;
+}
+
 } // namespace
 
-dxf::DrawingWriter::DrawingWriter(AcDbDatabase& database)
-    : m_database(database), m_form(database.form()), m_plain(isPlainForm(database.form())) {
+dxf::DrawingWriter::DrawingWriter(AcDbDatabase& database, const WriteOptions& options, TextOutput::Sink sink)
+    : m_database(database), m_options(options), m_form(formFor(database.form(), options.version)),
+      m_out(m_form, std::move(sink)) {
+  if (m_form.version != database.form().version) m_converter.emplace(database, m_form.version);
   for (const DrawingForm::Stray& stray : m_form.strays)
     m_strays.insert({{stray.place, stray.object.stub(), stray.object ? 0 : stray.section}, &stray.text});
 }
 
-void dxf::DrawingWriter::flush() {
-  if (m_plain)
-    m_out += m_pending;
-  else
-    m_out += encodeForFile(m_pending, m_form);
-  m_pending = {};
-}
-
-// Records that stood side by side in the file are copied in one piece.
-void dxf::DrawingWriter::put(std::string_view text) {
-  if (text.empty()) return;
-  if (!m_pending.empty() && m_pending.data() + m_pending.size() == text.data()) {
-    m_pending = {m_pending.data(), m_pending.size() + text.size()};
-    return;
-  }
-  flush();
-  endLine();
-  m_pending = text;
-}
-
-// The last line of a file may lack its end, and what follows it now must not join it.
-void dxf::DrawingWriter::endLine() {
-  if (!m_out.empty() && m_out.back() != '\n') m_out += m_form.crlf ? "\r\n" : "\n";
+// Tells how far it is, now and then.
+void dxf::DrawingWriter::told() {
+  if (++m_objectsWritten % kObjectsBetweenProgress != 0 || !m_options.progress || m_cancelled) return;
+  const double all = static_cast<double>(m_database.objectCount());
+  m_cancelled = !m_options.progress(std::min(1.0, static_cast<double>(m_objectsWritten) / all));
 }
 
 void dxf::DrawingWriter::put(const AcDbObject& object) {
-  put(object.record().text());
+  told();
+  const std::string_view text = object.record().text();
+  if (const auto converted = m_converter ? m_converter->record(object) : std::nullopt)
+    m_out.putCopy(*converted);
+  else
+    put(text);
   if (!m_strays.empty()) putStrays(DrawingForm::Stray::behindRecord, object.objectId().stub());
 }
 
 void dxf::DrawingWriter::putStrays(DrawingForm::Stray::Place place, const AcDbStub* object,
                                    std::size_t section) {
   const auto [first, last] = m_strays.equal_range({place, object, section});
-  for (auto stray = first; stray != last; ++stray) put(stray->second->text());
+  for (auto stray = first; stray != last; ++stray)
+    if (!m_converter || m_converter->hasStray()) put(stray->second->text());
 }
 
 void dxf::DrawingWriter::putEntity(const AcDbEntity& entity) {
@@ -79,7 +81,7 @@ bool dxf::DrawingWriter::isWanted(const AcDbObject& object) const {
   return !object.isErased() && (!object.isImplicit() || m_form.version >= "AC1015");
 }
 
-std::vector<DrawingForm::Section> dxf::DrawingWriter::sections() const {
+std::vector<DrawingForm::Section> dxf::DrawingWriter::sections() {
   std::vector<DrawingForm::Section> list = m_form.sections;
   const auto indexIn = [](std::string_view name) {
     return std::find(std::begin(kSectionOrder), std::end(kSectionOrder), name) - std::begin(kSectionOrder);
@@ -102,6 +104,11 @@ std::vector<DrawingForm::Section> dxf::DrawingWriter::sections() const {
     return std::any_of(records.begin(), records.end(),
                        [&](const auto& id) { return isWanted(*id.object()); });
   };
+  if (m_converter) {
+    for (const std::string_view name : kSectionOrder) need(name);
+    std::erase_if(list, [&](const auto& section) { return !m_converter->hasSection(section.name); });
+    return list;
+  }
   if (!m_database.header().record().isEmpty()) need("HEADER");
   const auto& tables = m_database.tables();
   if (std::any_of(tables.begin(), tables.end(), anyRecord)) need("TABLES");
@@ -120,16 +127,14 @@ std::vector<DrawingForm::Section> dxf::DrawingWriter::sections() const {
   return list;
 }
 
-std::string dxf::DrawingWriter::write() {
+bool dxf::DrawingWriter::write() {
   const auto list = sections();
   std::set<std::string> written;
   put(m_form.preamble.text());
   putStrays(DrawingForm::Stray::behindTail, nullptr, static_cast<std::size_t>(-1));
-  std::vector<std::string> heads; // made here, alive until they are flushed
-  heads.reserve(list.size());
-  for (std::size_t i = 0; i < list.size(); ++i) {
+  for (std::size_t i = 0; i < list.size() && !m_cancelled; ++i) {
     const DrawingForm::Section& section = list[i];
-    if (section.head.isEmpty()) put(heads.emplace_back(sectionHead(section.name)));
+    if (section.head.isEmpty()) m_out.putCopy(sectionHead(section.name));
     put(section.head.text());
     // The variables of a header stand in its own record.
     if (section.name != "HEADER") putStrays(DrawingForm::Stray::behindHead, nullptr, i);
@@ -150,17 +155,24 @@ std::string dxf::DrawingWriter::write() {
   }
   static const std::string eof = DxfRecordEditor::tag(0, "EOF");
   put(m_form.eof.isEmpty() ? std::string_view(eof) : m_form.eof.text());
-  flush();
-  return std::move(m_out);
+  return !m_cancelled && m_out.finish();
 }
 
 void dxf::DrawingWriter::writeSection(std::string_view name) {
   if (name == "HEADER") writeHeader();
-  if (name == "CLASSES")
-    for (const DxfRecord& record : m_form.classes) put(record.text());
+  if (name == "CLASSES") writeClasses();
   if (name == "TABLES") writeTables();
   if (name == "BLOCKS") writeBlocks();
   if (name == "OBJECTS") writeObjects();
+}
+
+void dxf::DrawingWriter::writeClasses() {
+  for (const DxfRecord& record : m_form.classes) {
+    if (m_converter)
+      m_out.putCopy(m_converter->classRecord(record.text()));
+    else
+      put(record.text());
+  }
 }
 
 // Above every handle that the file had or has now. What was added and taken back again leaves no trace.
@@ -169,22 +181,26 @@ AcDbHandle dxf::DrawingWriter::neededSeed() const {
   for (const AcDbStub& stub : m_database.stubs())
     if (!stub.object->isErased() && !stub.object->ownerId().isErased())
       highest = std::max(highest, stub.handle);
-  return std::max(m_form.seedAfterReading, AcDbHandle(highest.value() + 1));
+  highest = AcDbHandle(highest.value() + 1);
+  return std::max({m_form.seedAfterReading, highest, m_converter ? m_converter->seed() : AcDbHandle()});
 }
 
 void dxf::DrawingWriter::writeHeader() {
   AcDbHeader& header = m_database.header();
   const auto seed = header.text("$HANDSEED");
   const AcDbHandle needed = neededSeed();
-  const bool nothingAdded = !m_form.subclassMarkers() && needed == m_form.seedAfterReading;
-  if (!seed || nothingAdded || AcDbHandle::fromHex(dxf::encodeText(*seed)) >= needed) {
-    put(header.record().text());
-    return;
-  }
-  const std::string text =
-      AcDbHeader::withVariable(header.record().text(), "$HANDSEED", DxfRecordEditor::tag(5, needed.toHex()));
-  put(text);
-  flush();
+  const bool nothingAdded = !m_form.subclassMarkers() && needed == m_form.seedAfterReading && !m_converter;
+  const bool isHighEnough = !seed || nothingAdded || AcDbHandle::fromHex(dxf::encodeText(*seed)) >= needed;
+  const std::string_view text = header.record().text();
+  const std::string raised =
+      isHighEnough ? std::string()
+                   : AcDbHeader::withVariable(text, "$HANDSEED", DxfRecordEditor::tag(5, needed.toHex()));
+  if (m_converter)
+    m_out.putCopy(m_converter->header(isHighEnough ? text : raised));
+  else if (isHighEnough)
+    put(text);
+  else
+    m_out.putCopy(raised);
 }
 
 void dxf::DrawingWriter::writeTables() {
@@ -194,7 +210,7 @@ void dxf::DrawingWriter::writeTables() {
     const auto& records = table.records();
     const bool old = !m_form.subclassMarkers();
     // Old drawings have no records of blocks; a few bring the table all the same.
-    if (old && table.recordType() == "BLOCK_RECORD" && table.endRecord().isEmpty()) continue;
+    if (old && table.recordType() == "BLOCK_RECORD" && (m_converter || table.endRecord().isEmpty())) continue;
     const bool any =
         std::any_of(records.begin(), records.end(), [&](const auto& r) { return isWanted(*r.object()); });
     if (table.isImplicit() && !any && m_form.version < "AC1015") continue;
@@ -214,6 +230,7 @@ void dxf::DrawingWriter::writeBlocks() {
   for (const AcDbObjectId& id : order) {
     const AcDbBlockTableRecord* block = blockOf(id);
     if (!block || block->isErased()) continue;
+    if (m_converter && !m_converter->hasBlock(*block)) continue;
     const bool stood = !block->blockBeginId().object()->isImplicit();
     if (!stood && m_form.version < "AC1015" && (block->isLayout() || block->entities().empty())) continue;
     writeBlock(*block);
@@ -257,9 +274,11 @@ void dxf::DrawingWriter::writeEntities(std::uint32_t endRank) {
 void dxf::DrawingWriter::writeObjects() {
   for (const AcDbObjectId& id : m_database.objects())
     if (isWanted(*id.object())) put(*id.object());
+  if (m_converter) m_out.putCopy(m_converter->addedObjects());
 }
 
 std::vector<CString> dxf::DrawingWriter::losses() const {
+  if (m_converter) return m_converter->losses();
   const auto& objects = m_database.objects();
   const auto count = std::count_if(objects.begin(), objects.end(), [](const AcDbObjectId& id) {
     return !id.isErased() && !id.object()->isImplicit();
@@ -271,19 +290,4 @@ std::vector<CString> dxf::DrawingWriter::losses() const {
   CString text;
   text.Format(L"图形为 R12 格式，不能保存字典和扩展记录，%d 个对象未写入", count);
   return {text};
-}
-
-std::string dxf::WriteDrawingBytes(AcDbDatabase& database, std::vector<CString>* losses) {
-  database.completeBlocks();
-  DrawingWriter writer(database);
-  if (losses) *losses = writer.losses();
-  return writer.write();
-}
-
-dxf::WriteReport dxf::WriteDrawing(AcDbDatabase& database, const CString& path) {
-  WriteReport report;
-  const afx::FileResult result = afx::WriteFileAtomically(path, WriteDrawingBytes(database, &report.losses));
-  report.ok = result.ok;
-  report.error = result.message;
-  return report;
 }

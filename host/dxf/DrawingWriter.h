@@ -1,9 +1,14 @@
-// Puts a drawing's records together again in the order of its file. Used by WriteDrawing; not for others.
+// Puts a drawing's records together again in the order of its file, in its own version or another. Used by
+// WriteDrawing; not for others.
 #pragma once
 
 #include "host/db/AcDbDatabase.h"
+#include "host/dxf/DrawingFile.h"
+#include "host/dxf/TextOutput.h"
+#include "host/dxf/VersionConverter.h"
 
 #include <map>
+#include <optional>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -15,22 +20,25 @@ namespace dxf {
 
 class DrawingWriter {
  public:
-  explicit DrawingWriter(AcDbDatabase& database);
+  // sink takes the file's bytes, in its encoding.
+  DrawingWriter(AcDbDatabase& database, const WriteOptions& options, TextOutput::Sink sink);
 
-  // The file's bytes, in its encoding.
-  std::string write();
-  // What the version of the file can't hold, a sentence each.
+  // False when the sink or the user ended it.
+  bool write();
+  bool isCancelled() const { return m_cancelled; }
+  // What the version of the file can't hold, a sentence each. To be asked behind write().
   std::vector<CString> losses() const;
 
  private:
-  std::vector<DrawingForm::Section> sections() const;
-  void put(std::string_view text);
+  std::vector<DrawingForm::Section> sections();
+  void put(std::string_view text) { m_out.put(text); }
   void put(const AcDbObject& object);
   void putEntity(const AcDbEntity& entity);
   bool isWanted(const AcDbObject& object) const;
 
   void writeSection(std::string_view name);
   void writeHeader();
+  void writeClasses();
   void writeTables();
   void writeBlocks();
   void writeBlock(const AcDbBlockTableRecord& block);
@@ -38,19 +46,20 @@ class DrawingWriter {
   void writeEntities(std::uint32_t endRank);
   void writeObjects();
   void putStrays(DrawingForm::Stray::Place place, const AcDbStub* object, std::size_t section = 0);
-  void endLine();
-  void flush();
+  void told();
   AcDbHandle neededSeed() const;
 
   AcDbDatabase& m_database;
-  const DrawingForm& m_form;
-  std::string m_out;
-  std::string_view m_pending; // adjoining text that is not copied yet
+  const WriteOptions& m_options;
+  const DrawingForm m_form; // of the file to be written
+  TextOutput m_out;
+  std::optional<VersionConverter> m_converter; // none for the version that was read
   std::size_t m_modelWritten = 0;
   std::size_t m_paperWritten = 0;
+  std::size_t m_objectsWritten = 0;
+  bool m_cancelled = false;
   using StrayKey = std::tuple<DrawingForm::Stray::Place, const AcDbStub*, std::size_t>;
   std::multimap<StrayKey, const DxfRecord*> m_strays;
-  bool m_plain;
 };
 
 } // namespace dxf

@@ -11,9 +11,6 @@
 
 namespace {
 
-// The code page of a drawing that names none: our users' own.
-constexpr const char* kDefaultCodePage = "ANSI_936";
-
 bool isAscii(std::string_view bytes) {
   std::size_t i = 0;
   for (; i + 8 <= bytes.size(); i += 8) {
@@ -226,7 +223,7 @@ dxf::DecodedFile dxf::decodeFile(std::string bytes, DrawingForm& form) {
   }
   const CString namedPage = CString::FromUtf8(form.codePage);
   const bool unknownPage = hasCodePage && !page;
-  if (!page) page = afx::CodePage::Find(kDefaultCodePage);
+  if (!page) page = afx::CodePage::Find(dxf::kDefaultCodePage);
   const CString pageName = CString::FromUtf8(page->Name());
   if (isUtf8(bytes) && (unicodeVersion || looksLikeUtf8(bytes))) {
     if (!unicodeVersion) note(L"文字实为 UTF-8，与文件头的代码页不符，按 UTF-8 读写");

@@ -11,6 +11,9 @@
 
 namespace dxf {
 
+// The code page of a drawing that names none: our users' own.
+inline constexpr const char* kDefaultCodePage = "ANSI_936";
+
 struct DecodedFile {
   std::string text;
   std::vector<CString> notes; // what was not as the header says, a sentence each

@@ -78,6 +78,15 @@ TEST(BadHandle, MissingInR12StaysMissing) {
   EXPECT_EQ(opened.saved(), file);
 }
 
+TEST(BadHandle, TwiceInR12IsReplacedInTheRecordToo) {
+  const std::string point = "0 POINT\n5 A1\n8 0\n10 1\n20 2\n30 3\n";
+  const Opened opened = Open(DrawingOf(point + point.substr(0, point.size() - 1), "AC1009"));
+  EXPECT_THAT(opened.repairs(), HasSubstr("句柄 A1 重复"));
+  const Opened again = Open(opened.saved());
+  EXPECT_EQ(again.repairs(), "");
+  EXPECT_EQ(EntityAt(*again.database, 1).handle(), EntityAt(*opened.database, 1).handle());
+}
+
 // A new object must not take the number of something that is kept without being understood.
 TEST(BadHandle, OfKeptRecordsIsNotGivenAgain) {
   const Opened opened =
