@@ -28,6 +28,11 @@ bool isBuiltInLinetype(const AcDbObject& object) {
          (record->name().CompareNoCase(L"ByLayer") == 0 || record->name().CompareNoCase(L"ByBlock") == 0);
 }
 
+// Type, handle, subclass and owner.
+bool isStructure(const DxfTag& tag) {
+  return tag.code == 0 || tag.code == 5 || tag.code == 105 || tag.code == 100 || tag.code == 330;
+}
+
 std::string extendedDataOf(DxfTags tags) {
   std::string text;
   for (const DxfTag& tag : tags)
@@ -74,8 +79,12 @@ std::optional<std::string> dxf::VersionConverter::asR12(const AcDbObject& object
   const auto own = dxfOwnTags(tags);
   if (type == "VIEWPORT" && isWholePaper(own)) return std::string();
   std::string properties;
-  for (const DxfTag& tag : dxfCommonTags(own))
-    if (has(kEntityCodes, tag.code)) properties += Editor::tag(tag.code, tag.value);
+  for (const DxfTag& tag : dxfCommonTags(own)) {
+    if (has(kEntityCodes, tag.code))
+      properties += Editor::tag(tag.code, tag.value);
+    else if (!isStructure(tag))
+      missed(type, tag);
+  }
   const OldShape shape = oldShapeOf(type, own, handleOf(object), properties, extendedDataOf(tags));
   if (shape.loss) {
     m_losses.add(shape.loss);
@@ -86,12 +95,22 @@ std::optional<std::string> dxf::VersionConverter::asR12(const AcDbObject& object
   return shape.text;
 }
 
+void dxf::VersionConverter::missed(std::string_view type, const DxfTag& tag) {
+  bool isPlain = false;
+  const wchar_t* name = nameOfTagR12Lacks(type, tag, isPlain);
+  const bool isPointer = tag.code >= 320 && tag.code < 370; // to what is not there either
+  if (isPlain || (!name && isPointer)) return;
+  CString what;
+  if (!name) what.Format(L"%s 的组码 %d", decodeText(type), tag.code);
+  m_losses.add(name ? CString(name) : what);
+}
+
 std::string dxf::VersionConverter::r12Record(std::string_view type, DxfTags tags) {
   const R12Record& record = *dxf::r12Record(type);
   std::string text = Editor::tag(0, type);
   bool announced = false;
   for (const DxfTag& tag : dxfOwnTags(tags)) {
-    if (tag.code == 0 || tag.code == 5 || tag.code == 105 || tag.code == 100 || tag.code == 330) continue;
+    if (isStructure(tag)) continue;
     const bool known =
         r12Has(record, tag.code) || has(kEntityCodes, tag.code) || has(kThicknessAndNormal, tag.code);
     if (known) {
@@ -99,12 +118,7 @@ std::string dxf::VersionConverter::r12Record(std::string_view type, DxfTags tags
       announced = announced || tag.code == 66;
       continue;
     }
-    bool isPlain = false;
-    const wchar_t* name = nameOfTagR12Lacks(type, tag, isPlain);
-    if (isPlain || (!name && (tag.code >= 320 && tag.code < 370))) continue; // a handle of what is not there
-    CString what;
-    if (!name) what.Format(L"%s 的组码 %d", decodeText(type), tag.code);
-    m_losses.add(name ? CString(name) : what);
+    missed(type, tag);
   }
   // Without it the vertices that follow are not taken for the polyline's.
   if (type == "POLYLINE" && !announced) text += Editor::tag(66, "1");

@@ -2,6 +2,7 @@
 
 #include "host/afx/Encoding.h"
 #include "host/db/DxfTag.h"
+#include "host/dxf/RecordScanner.h"
 
 #include <algorithm>
 #include <cctype>
@@ -23,9 +24,15 @@ bool isAscii(std::string_view bytes) {
   return true;
 }
 
-// Gives how many line ends lost theirs.
-std::size_t dropCarriageReturns(std::string& text) {
-  std::size_t dropped = 0;
+struct LineEnds {
+  std::size_t withReturn = 0; // "CR LF"
+  bool odd = false;           // more than one CR ahead of an LF, or a CR at the end of the file
+};
+
+// Leaves line feeds alone as line ends. What stands ahead of one must not read as part of it when the file is
+// written again, so all of several CRs go.
+LineEnds dropCarriageReturns(std::string& text) {
+  LineEnds ends;
   char* out = text.data();
   const char* in = text.data();
   const char* const end = in + text.size();
@@ -35,14 +42,17 @@ std::size_t dropCarriageReturns(std::string& text) {
     std::memmove(out, in, static_cast<std::size_t>(stop - in));
     out += stop - in;
     if (!cr) break;
-    in = cr + 1;
-    if (in < end && *in == '\n')
-      ++dropped;
-    else
-      *out++ = '\r';
+    for (in = cr; in < end && *in == '\r';) ++in;
+    if (in < end && *in != '\n') { // within a line
+      std::memmove(out, cr, static_cast<std::size_t>(in - cr));
+      out += in - cr;
+      continue;
+    }
+    if (in < end) ++ends.withReturn;
+    ends.odd = ends.odd || in == end || in - cr > 1;
   }
   text.resize(static_cast<std::size_t>(out - text.data()));
-  return dropped;
+  return ends;
 }
 
 // UTF-8 throughout. The runs of ASCII, which are most of a drawing, are passed over in blocks.
@@ -73,25 +83,28 @@ bool isVersion(std::string_view version) {
                      [](char c) { return std::isdigit(static_cast<unsigned char>(c)); });
 }
 
-// Version and code page stand near the beginning; the rest of the file is not looked at.
+// Version and code page stand near the beginning; the rest of the file is not looked at. A broken line is
+// passed over, as recovery does it.
 void readHeaderStrings(std::string_view text, DrawingForm& form, bool& hasCodePage) {
   form.hasVersion = false;
   hasCodePage = false;
   std::string_view variable;
-  DxfTagReader reader(text);
-  int sections = 0;
-  for (DxfTag tag; reader.next(tag);) {
-    const std::string_view value = dxf::trimBlanks(tag.value);
-    if (tag.code == 0 && value == "SECTION" && ++sections == 2) break;
-    if (tag.code == 0 && value == "ENDSEC") break;
-    if (tag.code == 9) variable = value;
-    if (tag.code == 1 && variable == "$ACADVER") {
-      form.version = value;
-      form.hasVersion = true;
-    }
-    if (tag.code == 3 && variable == "$DWGCODEPAGE") {
-      form.codePage = value;
-      hasCodePage = true;
+  dxf::RecordScanner scanner(text);
+  const auto next = [&] { return scanner.next() || (scanner.resynchronise() && scanner.next()); };
+  for (int sections = 0; next();) {
+    if (scanner.type() == "SECTION" && ++sections == 2) break;
+    if (scanner.type() == "ENDSEC" || scanner.type() == "EOF") break;
+    for (const DxfTag& tag : scanner.tags()) {
+      const std::string_view value = dxf::trimBlanks(tag.value);
+      if (tag.code == 9) variable = value;
+      if (tag.code == 1 && variable == "$ACADVER") {
+        form.version = value;
+        form.hasVersion = true;
+      }
+      if (tag.code == 3 && variable == "$DWGCODEPAGE") {
+        form.codePage = value;
+        hasCodePage = true;
+      }
     }
   }
   if (!form.hasVersion || !isVersion(form.version)) form.version = "AC1009";
@@ -206,9 +219,9 @@ dxf::DecodedFile dxf::decodeFile(std::string bytes, DrawingForm& form) {
   const auto firstEnd = bytes.find('\n');
   form.crlf = firstEnd != bytes.npos && firstEnd > 0 && bytes[firstEnd - 1] == '\r';
   if (form.crlf || std::memchr(bytes.data(), '\r', bytes.size())) {
-    const std::size_t dropped = dropCarriageReturns(bytes);
+    const LineEnds ends = dropCarriageReturns(bytes);
     const auto lines = static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n'));
-    if (dropped != (form.crlf ? lines : 0))
+    if (ends.odd || ends.withReturn != (form.crlf ? lines : 0))
       note(L"文件混用两种行尾，将统一为%s", form.crlf ? L"回车换行" : L"换行");
   }
   bool hasCodePage = false;
@@ -240,6 +253,21 @@ dxf::DecodedFile dxf::decodeFile(std::string bytes, DrawingForm& form) {
   if (!unicodeVersion && counts.utf8 > 0) note(L"%d 行文字实为 UTF-8，将以 %s 保存", counts.utf8, pageName);
   if (counts.kept > 0) note(L"%d 行含无法识别的字节，原样保留", counts.kept);
   return file;
+}
+
+std::size_t dxf::replaceUnexplainedBytes(std::string& text) {
+  if (isAscii(text)) return 0;
+  std::size_t count = 0;
+  std::wstring wide = afx::Utf8ToWide(text);
+  for (wchar_t& c : wide) {
+    const bool isByte = (c >= kCarriedByte + 0x80 && c <= kCarriedByte + 0xFF) ||
+                        (c >= kPrivateByte + 0x80 && c <= kPrivateByte + 0xFF);
+    if (!isByte) continue;
+    c = 0xFFFD;
+    ++count;
+  }
+  if (count > 0) text = afx::WideToUtf8(wide);
+  return count;
 }
 
 bool dxf::isPlainForm(const DrawingForm& form) {

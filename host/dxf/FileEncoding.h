@@ -28,4 +28,8 @@ std::string encodeForFile(std::string_view text, const DrawingForm& form);
 // Whether encodeForFile would give the same bytes for every text, so that nothing needs converting.
 bool isPlainForm(const DrawingForm& form);
 
+// Puts a replacement character in the place of each byte that decodeFile kept because nothing explained it.
+// Gives their number.
+std::size_t replaceUnexplainedBytes(std::string& text);
+
 } // namespace dxf

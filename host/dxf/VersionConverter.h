@@ -25,7 +25,7 @@ class VersionConverter {
   // Whether a block's definition is written.
   bool hasBlock(const AcDbObject& block);
   std::string header(std::string_view variables);
-  std::string classRecord(std::string_view text) const;
+  std::string classRecord(std::string_view text);
   // Nothing: as it stands. An empty text: not written.
   std::optional<std::string> record(const AcDbObject& object);
   // What the version asks for and the drawing has nowhere, at the end of OBJECTS.
@@ -36,10 +36,14 @@ class VersionConverter {
   std::vector<CString> losses() const;
 
  private:
+  std::optional<std::string> inVersion(const AcDbObject& object, DxfTags tags);
+  std::string inUtf8(std::string text);
   // Records of R2000 and later, without what is newer than the target.
   std::optional<std::string> reduced(DxfTags tags);
   std::optional<std::string> asR12(const AcDbObject& object, DxfTags tags);
   std::string r12Record(std::string_view type, DxfTags tags);
+  // Counts a tag that R12 has no place for, unless it says what a missing one says.
+  void missed(std::string_view type, const DxfTag& tag);
   std::string r12DimensionStyle(std::string_view text) const;
   std::string fromR12(const AcDbObject& object, DxfTags tags);
   std::string withOwner(const AcDbObject& object, std::string_view text, DxfTags tags) const;
@@ -56,6 +60,7 @@ class VersionConverter {
   std::string m_target;
   bool m_toR12;
   bool m_fromR12;
+  bool m_toUtf8;     // from a code page
   bool m_addsOwners; // drawings before R2000 do without
   std::vector<Layout> m_layouts;
   AcDbHandle m_layoutDictionary;

@@ -102,6 +102,16 @@ TEST(BadFile, OfAChangedByteIsRefusedOrOpensAndSavesTheSameTwice) {
   }
 }
 
+// What recovery leaves out ahead of the version must not change what the file is taken for.
+TEST(BadFile, WithABrokenLineAheadOfItsVersionIsOfThatVersion) {
+  const std::string file =
+      "broken\n" + DrawingOf("0 POINT\n5 A1\n100 AcDbEntity\n8 0\n100 AcDbPoint\n10 1\n20 2\n30 3");
+  const Opened opened = Open(file, true);
+  ASSERT_TRUE(opened.ok()) << opened.error();
+  EXPECT_EQ(opened.database->form().version, "AC1015");
+  EXPECT_EQ(Open(opened.saved()).saved(), opened.saved());
+}
+
 TEST(BadFile, ReadingCanBeCancelled) {
   AcDbDatabase database(false);
   dxf::ReadOptions options;

@@ -172,6 +172,17 @@ TEST(LineEnd, MixedInOneFileBecomesThatOfTheFirstLine) {
   EXPECT_THAT(Open(file).repairs(), HasSubstr("文件混用两种行尾，将统一为换行"));
 }
 
+// What is left of them would read as part of the line end when the file is opened again.
+TEST(LineEnd, OfSeveralReturnsIsOne) {
+  const std::string crlf = drawing("AC1009", "", "abc", "\r\n");
+  std::string file = crlf;
+  file.insert(file.rfind('\r'), "\r");
+  EXPECT_EQ(Open(file).saved(), crlf);
+  EXPECT_THAT(Open(file).repairs(), HasSubstr("文件混用两种行尾，将统一为回车换行"));
+  const std::string lf = drawing("AC1009", "", "abc");
+  EXPECT_EQ(Open(lf.substr(0, lf.size() - 1) + "\r").saved(), lf.substr(0, lf.size() - 1));
+}
+
 // Far behind the beginning too.
 TEST(LineEnd, MixedLateInALongFileIsSeen) {
   std::string file = Tags("0 SECTION\n2 ENTITIES");
