@@ -7,6 +7,7 @@
 
 #include "host/ed/AcEdCommand.h"
 #include "host/ed/acutPrintf.h"
+#include "plugin/fancoil/OldCatalogueImport.h"
 #include "plugin/frame/DialogCommands.h"
 #include "plugin/layers/LayerService.h"
 
@@ -19,15 +20,10 @@ struct MissingCommand {
 };
 
 constexpr MissingCommand kMissing[] = {
-    {L"KOR_GJGLQ", L"管材管径管理器"},
-    {L"KOR_LSGLQ", L"管道流速管理器"},
-    {L"KOR_FGGJGLQ", L"风管管材和管径管理器"},
-    {L"KOR_TCGLQ", L"图层管理器"},
-    {L"KOR_CADTCFZ", L"CAD当前图纸图层分组"},
-    {L"KOR_CADTCKZ", L"当前CAD图纸图层管理"},
-    {L"KOR_FJPGGLQ", L"风机盘管数据管理"},
-    {L"KOR_FJPG_OLDTONEW", L"旧风机盘管数据导入"},
-    {L"KOR_SRQ", L"散热器管理器"},
+    {L"KOR_GJGLQ", L"管材管径管理器"},         {L"KOR_LSGLQ", L"管道流速管理器"},
+    {L"KOR_FGGJGLQ", L"风管管材和管径管理器"}, {L"KOR_TCGLQ", L"图层管理器"},
+    {L"KOR_CADTCFZ", L"CAD当前图纸图层分组"},  {L"KOR_CADTCKZ", L"当前CAD图纸图层管理"},
+    {L"KOR_FJPGGLQ", L"风机盘管数据管理"},     {L"KOR_SRQ", L"散热器管理器"},
     {L"KOR_SRQJS", L"散热器片数计算"},
 };
 
@@ -72,7 +68,7 @@ constexpr VkCmdTable kTable[] = {
     ZP_MISSING_COMMAND(L"KOR_CADTCFZ"),
     ZP_MISSING_COMMAND(L"KOR_CADTCKZ"),
     ZP_MISSING_COMMAND(L"KOR_FJPGGLQ"),
-    ZP_MISSING_COMMAND(L"KOR_FJPG_OLDTONEW"),
+    {L"KOR_FJPG_OLDTONEW", fancoil::ImportOldCatalogue, kFlags},
     ZP_MISSING_COMMAND(L"KOR_SRQ"),
     ZP_MISSING_COMMAND(L"KOR_SRQJS"),
 };

@@ -8,11 +8,11 @@
 
 namespace {
 
+// Where the fixed path leads to.
+constexpr const char* kOldFile = "drive_c/Program Files/QingLanC/Kor70/Dwglib/FJPG/FANCOIL.IDP";
+
 class OldCatalogueImport : public CatalogueFixture {
  protected:
-  static constexpr const char* kOldFile =
-      "drive_c/Program Files/QingLanC/Kor70/Dwglib/FJPG/FANCOIL.IDP"; // where the fixed path leads to
-
   void PutOld(OldCatalogueForm form = OldCatalogueForm::Clean) {
     CIDPEx old;
     FillOldCatalogue(old, form);
@@ -24,24 +24,33 @@ class OldCatalogueImport : public CatalogueFixture {
     fancoil::ImportOldCatalogue();
     return user.output;
   }
-  static std::filesystem::path Sample(const char* name) {
-    return std::filesystem::path(ZP_SOURCE_DIR) / "tests/plugin/fancoil/samples" / name;
-  }
 };
 
 struct SampleFile {
   const char* name;
+  const char* session; // of the drawing tests, which imports the same file
   OldCatalogueForm form;
+
+  // Where the file stands, here and for the session.
+  std::vector<CString> Paths() const {
+    const std::filesystem::path tests = std::filesystem::path(ZP_SOURCE_DIR) / "tests";
+    std::vector<CString> paths;
+    for (const auto& path :
+         {tests / "plugin/fancoil/samples" / name, tests / "drawings" / session / "data" / kOldFile})
+      paths.push_back(CString::FromUtf8(path.string()));
+    return paths;
+  }
 };
-constexpr SampleFile kSamples[] = {{"FANCOIL.IDP", OldCatalogueForm::Clean},
-                                   {"FANCOIL-damaged.IDP", OldCatalogueForm::Damaged}};
+constexpr SampleFile kSamples[] = {
+    {"FANCOIL.IDP", "fan_coil_import", OldCatalogueForm::Clean},
+    {"FANCOIL-damaged.IDP", "fan_coil_import_damaged", OldCatalogueForm::Damaged}};
 
 // Run with --gtest_also_run_disabled_tests to make the samples anew.
 TEST_F(OldCatalogueImport, DISABLED_WriteTheSamples) {
   for (const SampleFile& sample : kSamples) {
     CIDPEx old;
     FillOldCatalogue(old, sample.form);
-    ASSERT_TRUE(old.Save(CString::FromUtf8(Sample(sample.name).string())));
+    for (const CString& path : sample.Paths()) ASSERT_TRUE(old.Save(path));
   }
 }
 
@@ -51,10 +60,12 @@ TEST_F(OldCatalogueImport, TheSamplesAreReadAsTheyWereWritten) {
     FillOldCatalogue(fresh, sample.form);
     SaveOld(fresh);
     const std::string expected = install.Read(kOldFile);
-    CIDPEx read;
-    ASSERT_TRUE(read.Open(CString::FromUtf8(Sample(sample.name).string()))) << sample.name;
-    SaveOld(read);
-    EXPECT_EQ(install.Read(kOldFile), expected) << sample.name;
+    for (const CString& path : sample.Paths()) {
+      CIDPEx read;
+      ASSERT_TRUE(read.Open(path)) << path.ToUtf8();
+      SaveOld(read);
+      EXPECT_EQ(install.Read(kOldFile), expected) << path.ToUtf8();
+    }
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "plugin/fancoil/OldCatalogueImport.h"
 #include "plugin/layers/LayerService.h"
 #include "tests/support/ScriptedEditor.h"
 
@@ -45,6 +46,10 @@ TEST(CommandTable, ForwardsTheLayerCommandsAsTheyAre) {
   EXPECT_EQ(handlerOf(L"KOR_JSQBTC"), &ZP::UnLockedAllLayers);
 }
 
+TEST(CommandTable, ImportsOldFanCoilsWithoutADialog) {
+  EXPECT_EQ(CommandTable()[19].handler, &fancoil::ImportOldCatalogue);
+}
+
 // The commands that only say so: whoever provides one takes it off this list.
 TEST(CommandTable, TellsWhichCommandsAreMissing) {
   ScriptedEditor editor;
@@ -61,7 +66,6 @@ TEST(CommandTable, TellsWhichCommandsAreMissing) {
                             L"\n命令 KOR_CADTCFZ（CAD当前图纸图层分组）尚未提供。\n"
                             L"\n命令 KOR_CADTCKZ（当前CAD图纸图层管理）尚未提供。\n"
                             L"\n命令 KOR_FJPGGLQ（风机盘管数据管理）尚未提供。\n"
-                            L"\n命令 KOR_FJPG_OLDTONEW（旧风机盘管数据导入）尚未提供。\n"
                             L"\n命令 KOR_SRQ（散热器管理器）尚未提供。\n"
                             L"\n命令 KOR_SRQJS（散热器片数计算）尚未提供。\n");
 }
