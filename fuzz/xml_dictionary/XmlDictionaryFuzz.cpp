@@ -77,7 +77,7 @@ void Change(VkDtDictionary& tree, const uint8_t* data, std::size_t size) {
       break;
     case 3:
       tree.SetAttributeValue(name, name);
-      Require(tree.GetAttributeValue(name) == name);
+      Require(tree.GetAttributeValue(name) == name.GetString()); // names and texts end at a zero here
       break;
     case 4:
       tree.SetAttributeDoubleValue(name, data[i] / 8.0);

@@ -3,6 +3,8 @@
 
 #include <utility>
 
+#include "plugin/base/xml/ItemAccess.h"
+
 namespace {
 
 using List = VkPDList<VkDtDictItem>;
@@ -57,7 +59,8 @@ VkDtDictionary* VkDtDictionary::FindDict(const CString& name) {
 
 VkDtDictionary* VkDtDictionary::FindOrAddDict(const CString& name) {
   if (VkDtDictionary* found = FindDict(name)) return found;
-  auto child = std::make_unique<VkDtDictionary>(name, nullptr);
+  auto child = std::make_unique<VkDtDictionary>(nullptr, nullptr);
+  xml::ItemAccess::SetName(*child, name); // whole, so that it is found again, whatever characters it has
   // The one change after which the index is known to be right.
   std::unique_ptr<NameIndex> index = std::move(m_byName);
   const int finds = m_finds;

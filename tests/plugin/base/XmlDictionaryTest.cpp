@@ -33,6 +33,15 @@ TEST(XmlDictionary, FindOrAddDictOfAMissingNameGivesANewChildAtTheEndAndThenTheS
   EXPECT_EQ(root.GetLength(), 2);
 }
 
+TEST(XmlDictionary, ANameWithAZeroInItIsFoundAgain) {
+  VkDtDictionary root(nullptr, nullptr);
+  const CString name(L"a\0b", 3);
+  VkDtDictionary* const added = root.FindOrAddDict(name);
+  EXPECT_EQ(added->GetName(), name);
+  EXPECT_EQ(root.FindOrAddDict(name), added);
+  EXPECT_EQ(root.FindDict(L"a"), nullptr);
+}
+
 TEST(XmlDictionary, AfterResetADictionaryHasNoChildrenAndStaysUsable) {
   VkDtDictionary root(nullptr, nullptr);
   for (int i = 0; i < 40; ++i) root.FindOrAddDict(std::to_wstring(i))->FindOrAddDict(L"below");
