@@ -2,11 +2,11 @@
 // beside the same sum from an index of the names, and from copies of the store's records.
 #include <benchmark/benchmark.h>
 
-#include <map>
 #include <string>
 #include <unordered_map>
 #include <vector>
 
+#include "bench/RatioReporter.h"
 #include "bench/resistance/AllocationCount.h"
 #include "plugin/base/NumberText.h"
 #include "plugin/resistance/CZPLocalResistanceMng.h"
@@ -127,42 +127,13 @@ BENCHMARK(Alike)->Arg(200)->Iterations(1000000);
 BENCHMARK(Copies)->Arg(200)->Iterations(1000000);
 BENCHMARK(Index)->Arg(200)->Iterations(1000000);
 
-// Prints the table and the ratios of processor time, which other programs on the machine do not stretch.
-class RatioReporter : public benchmark::ConsoleReporter {
- public:
-  void ReportRuns(const std::vector<Run>& runs) override {
-    ConsoleReporter::ReportRuns(runs);
-    for (const Run& run : runs) {
-      // The median is there when the run was repeated, and comes after the single ones.
-      if (run.run_type != Run::RT_Iteration && run.aggregate_name != "median") continue;
-      m_times[run.run_name.function_name + run.run_name.args] = run.GetAdjustedCPUTime();
-    }
-  }
-  void Finalize() override {
-    PrintRatio("Alike200", "Section200");
-    PrintRatio("Copies200", "Section200");
-    PrintRatio("Section200", "Index200");
-    PrintRatio("Section200", "Section50");
-    PrintRatio("Section800", "Section200");
-  }
-
- private:
-  void PrintRatio(const std::string& above, const std::string& below) {
-    const auto a = m_times.find(above);
-    const auto b = m_times.find(below);
-    if (a == m_times.end() || b == m_times.end()) return;
-    GetOutputStream() << "ratio " << above << " to " << below << ": " << a->second / b->second << '\n';
-  }
-
-  std::map<std::string, double> m_times;
-};
-
 } // namespace
 
 int main(int argc, char** argv) {
-  benchmark::Initialize(&argc, argv);
-  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
-  RatioReporter reporter;
-  benchmark::RunSpecifiedBenchmarks(&reporter);
-  return 0;
+  return bench::RunWithRatios(argc, argv,
+                              {{"Alike to Section, 200", "Alike/200", "Section/200"},
+                               {"Copies to Section, 200", "Copies/200", "Section/200"},
+                               {"Section to Index, 200", "Section/200", "Index/200"},
+                               {"Section 200 to 50", "Section/200", "Section/50"},
+                               {"Section 800 to 200", "Section/800", "Section/200"}});
 }
