@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <filesystem>
+#include <fstream>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -140,13 +142,43 @@ TEST(CorrectionTables, ShowNinePicturesInTheFixedRowsOfTheSecond) {
     for (const auto& cell : FindCorrectionTable(index)->cells) EXPECT_FALSE(cell.isPicture);
 }
 
-TEST(CorrectionTables, HaveADrawingOfEachPicture) {
-  const auto folder = std::filesystem::path(ZP_SOURCE_DIR) / "data/HeatingData/SrqPicture";
+// The bitmap of the shipped data, which the build renders; empty when there is none.
+std::string ShippedPicture(const wchar_t* name) {
+  const auto path =
+      std::filesystem::path(ZP_BINARY_DIR) / "data/HeatingData/SrqPicture" / CString(name).ToUtf8();
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+int NumberAt(const std::string& bytes, std::size_t at) {
+  int number = 0;
+  for (std::size_t i = 0; i < 4; ++i) number |= static_cast<unsigned char>(bytes[at + i]) << (8 * i);
+  return number;
+}
+
+TEST(CorrectionTables, HaveEachPictureInTheShippedDataAsABitmapThatFitsItsCell) {
+  constexpr std::size_t kHead = 54;
+  std::vector<std::string> pictures;
   for (const auto& cell : FindCorrectionTable(1)->cells) {
     if (!cell.isPicture) continue;
-    const auto drawing = (folder / CString(cell.text).ToUtf8()).replace_extension(".svg");
-    EXPECT_TRUE(std::filesystem::exists(drawing)) << drawing;
+    const std::string bytes = ShippedPicture(cell.text);
+    const std::string name = CString(cell.text).ToUtf8();
+    ASSERT_GT(bytes.size(), kHead) << name;
+    EXPECT_EQ(bytes.substr(0, 2), "BM") << name;
+    EXPECT_EQ(NumberAt(bytes, 2), static_cast<int>(bytes.size())) << name;
+    EXPECT_EQ(NumberAt(bytes, 10), static_cast<int>(kHead)) << name;
+    EXPECT_EQ(NumberAt(bytes, 18), 120) << name; // pixels, as the column is wide
+    EXPECT_EQ(NumberAt(bytes, 22), 55) << name;  // and the row is high
+    EXPECT_EQ(NumberAt(bytes, 28), 24) << name;  // bits a pixel
+    EXPECT_EQ(bytes.size(), kHead + 120 * 55 * 3) << name;
+    // Blue, green, red: the supply is red, the return blue, what lies between is white.
+    for (const char* colour : {"\x00\x00\xC0", "\xC0\x40\x00", "\xFF\xFF\xFF"})
+      EXPECT_NE(bytes.find(std::string(colour, 3), kHead), std::string::npos) << name;
+    pictures.push_back(bytes);
   }
+  std::sort(pictures.begin(), pictures.end());
+  EXPECT_EQ(pictures.size(), 9u);
+  EXPECT_EQ(std::unique(pictures.begin(), pictures.end()), pictures.end()) << "two pictures are the same";
 }
 
 TEST(CorrectionTables, TellLabelsFromValues) {
