@@ -1,10 +1,10 @@
 // Files that are cut off, or lack or repeat what the form promises, and saves that fail.
-#include <csignal>
-#include <sys/resource.h>
-
 #include "ZpPaths.h"
 #include "host/afx/MessageLog.h"
 #include "tests/plugin/radiators/RadiatorCatalogueFixture.h"
+#include "tests/support/FullDisk.h"
+#include "tests/support/OrdinaryUser.h"
+#include "tests/support/TinyDisk.h"
 
 namespace {
 
@@ -28,24 +28,6 @@ class DamagedRadiatorFile : public RadiatorCatalogueFixture {
       EXPECT_EQ(Names(), L"") << length;
     }
   }
-};
-
-// While it lives no file of this process grows beyond so many bytes: as good as a full disk, even for root.
-class FullDisk {
- public:
-  FullDisk() : m_handler(std::signal(SIGXFSZ, SIG_IGN)) {
-    ::getrlimit(RLIMIT_FSIZE, &m_before);
-    const rlimit now{10, m_before.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &now);
-  }
-  ~FullDisk() {
-    ::setrlimit(RLIMIT_FSIZE, &m_before);
-    std::signal(SIGXFSZ, m_handler);
-  }
-
- private:
-  rlimit m_before{};
-  void (*m_handler)(int);
 };
 
 TEST_F(DamagedRadiatorFile, OfTheOldVersionCutOffAnywhereGivesNothing) {
@@ -119,14 +101,46 @@ TEST_F(DamagedRadiatorFile, StaysWhenASaveFails) {
   ASSERT_TRUE(catalogue.SaveData());
   const std::string before = install.Read(kFile);
   AddType(L"乙");
-  {
-    const FullDisk full;
-    EXPECT_FALSE(catalogue.SaveData());
-  }
+  EXPECT_FALSE(OnAFullDisk([&] { return catalogue.SaveData(); }));
   EXPECT_EQ(install.Read(kFile), before);
   EXPECT_EQ(Names(), L"甲(1) 乙()");
   EXPECT_TRUE(catalogue.SaveData());
   EXPECT_NE(install.Read(kFile), before);
+}
+
+TEST_F(DamagedRadiatorFile, StaysWhenItsFolderIsReadOnly) {
+  namespace fs = std::filesystem;
+  AddRadiator(AddType(L"甲"), L"1");
+  ASSERT_TRUE(catalogue.SaveData());
+  const std::string before = install.Read(kFile);
+  AddType(L"乙");
+  const fs::path folder = install.Root() / "HeatingData";
+  constexpr auto kWrite = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+  fs::permissions(install.Root(), fs::perms::all);
+  fs::permissions(folder, kWrite, fs::perm_options::remove);
+  {
+    const OrdinaryUser user;
+    if (user.IsOne()) {
+      EXPECT_FALSE(catalogue.SaveData());
+    }
+  }
+  fs::permissions(folder, kWrite, fs::perm_options::add);
+  EXPECT_EQ(install.Read(kFile), before);
+  EXPECT_EQ(std::distance(fs::directory_iterator(folder), fs::directory_iterator()), 1)
+      << "nothing beside it";
+}
+
+TEST_F(DamagedRadiatorFile, StaysWholeOnADiskThatRunsFull) {
+  const TinyDiskResult result = OnATinyDisk(install.Root() / "HeatingData", [&] {
+    AddRadiator(AddType(L"甲"), L"1");
+    if (!catalogue.SaveData()) return false;
+    const std::string before = install.Read(kFile);
+    FillDisk(install.Root() / "HeatingData");
+    AddType(L"乙");
+    return !catalogue.SaveData() && install.Read(kFile) == before;
+  });
+  if (result == TinyDiskResult::kNotAllowed) GTEST_SKIP() << "disks cannot be mounted here";
+  EXPECT_EQ(result, TinyDiskResult::kPassed);
 }
 
 TEST_F(DamagedRadiatorFile, FailsTheSaveWhereTheFolderCannotBe) {
