@@ -20,10 +20,11 @@ struct MissingCommand {
 };
 
 constexpr MissingCommand kMissing[] = {
-    {L"KOR_GJGLQ", L"管材管径管理器"},         {L"KOR_LSGLQ", L"管道流速管理器"},
-    {L"KOR_FGGJGLQ", L"风管管材和管径管理器"}, {L"KOR_TCGLQ", L"图层管理器"},
-    {L"KOR_CADTCFZ", L"CAD当前图纸图层分组"},  {L"KOR_CADTCKZ", L"当前CAD图纸图层管理"},
-    {L"KOR_FJPGGLQ", L"风机盘管数据管理"},     {L"KOR_SRQ", L"散热器管理器"},
+    {L"KOR_TCGLQ", L"图层管理器"},
+    {L"KOR_CADTCFZ", L"CAD当前图纸图层分组"},
+    {L"KOR_CADTCKZ", L"当前CAD图纸图层管理"},
+    {L"KOR_FJPGGLQ", L"风机盘管数据管理"},
+    {L"KOR_SRQ", L"散热器管理器"},
     {L"KOR_SRQJS", L"散热器片数计算"},
 };
 
@@ -49,9 +50,9 @@ constexpr int kFlags = ACRX_CMD_USEPICKSET;
   { name, TellMissing<MissingIndex(name)>, kFlags }
 
 constexpr VkCmdTable kTable[] = {
-    ZP_MISSING_COMMAND(L"KOR_GJGLQ"),
-    ZP_MISSING_COMMAND(L"KOR_LSGLQ"),
-    ZP_MISSING_COMMAND(L"KOR_FGGJGLQ"),
+    {L"KOR_GJGLQ", dialogs::PipeMaterials, kFlags},
+    {L"KOR_LSGLQ", dialogs::VelocityLimits, kFlags},
+    {L"KOR_FGGJGLQ", dialogs::DuctMaterials, kFlags},
     {L"KOR_XTSZ", dialogs::SystemSettings, kFlags},
     ZP_MISSING_COMMAND(L"KOR_TCGLQ"),
     {L"KOR_SZDQTC", MakePickedLayerCurrent, kFlags},

@@ -3,6 +3,19 @@
 #include "host/ed/acedWindows.h"
 #include "plugin/frame/CZPSystemSettingsDlg.h"
 #include "plugin/graph/ResourceBracket.h"
+#include "plugin/pipes/dialogs/ShowPipeDialogs.h"
+
+void dialogs::PipeMaterials() {
+  ZP::ShowPipeMaterialDlg(acedGetAcadDwgView());
+}
+
+void dialogs::VelocityLimits() {
+  ZP::ShowFVMngDlg(acedGetAcadDwgView());
+}
+
+void dialogs::DuctMaterials() {
+  ZP::ShowDuctMaterialDlg(acedGetAcadDwgView());
+}
 
 void dialogs::SystemSettings() {
   const ResourceBracket bracket;

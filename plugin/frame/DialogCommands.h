@@ -3,6 +3,9 @@
 
 namespace dialogs {
 
+void PipeMaterials();  // KOR_GJGLQ
+void VelocityLimits(); // KOR_LSGLQ
+void DuctMaterials();  // KOR_FGGJGLQ
 void SystemSettings(); // KOR_XTSZ
 
 } // namespace dialogs

@@ -59,10 +59,7 @@ TEST(CommandTable, TellsWhichCommandsAreMissing) {
     row.handler();
   }
   for (const VkCmdTable& row : CommandTable().subspan(16)) row.handler();
-  EXPECT_EQ(editor.printed, L"\n命令 KOR_GJGLQ（管材管径管理器）尚未提供。\n"
-                            L"\n命令 KOR_LSGLQ（管道流速管理器）尚未提供。\n"
-                            L"\n命令 KOR_FGGJGLQ（风管管材和管径管理器）尚未提供。\n"
-                            L"\n命令 KOR_TCGLQ（图层管理器）尚未提供。\n"
+  EXPECT_EQ(editor.printed, L"\n命令 KOR_TCGLQ（图层管理器）尚未提供。\n"
                             L"\n命令 KOR_CADTCFZ（CAD当前图纸图层分组）尚未提供。\n"
                             L"\n命令 KOR_CADTCKZ（当前CAD图纸图层管理）尚未提供。\n"
                             L"\n命令 KOR_FJPGGLQ（风机盘管数据管理）尚未提供。\n"
