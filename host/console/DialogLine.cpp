@@ -35,18 +35,26 @@ template <class Control> bool Is(const DialogTarget& target) {
   return IsItself(target) && dynamic_cast<Control*>(target.control);
 }
 
+// Where a line may be cut into what is changed and its new text: at every "=" outside of quotes.
+std::vector<int> CutsAtEquals(const CString& text) {
+  std::vector<int> cuts;
+  bool quoted = false;
+  for (int i = 0; i < text.GetLength(); ++i) {
+    if (text[i] == L'"') quoted = !quoted;
+    if (!quoted && text[i] == L'=') cuts.push_back(i);
+  }
+  return cuts;
+}
+
 // The text cut at the first "=" before which there is a target; rest is what stands between target and "=".
 struct Assignment {
   FoundTarget found;
   CString text;
 };
 std::optional<Assignment> ParseAssignment(const Line& line, const Fits& fits, UiOutcome& outcome) {
-  const int first = line.rest.Find(L'=');
-  if (first < 0) {
-    outcome = {L"缺少“= 文字”。", L"= 后面写新的文字"};
-    return std::nullopt;
-  }
-  for (int at = first; at >= 0; at = line.rest.Find(L'=', at + 1)) {
+  const auto cuts = CutsAtEquals(line.rest);
+  if (cuts.empty()) outcome = {L"缺少“= 文字”。", L"= 后面写新的文字"};
+  for (const int at : cuts) {
     UiOutcome here;
     const CString left = line.rest.Left(at).TrimRight();
     CString text = line.rest.Mid(at + 1);

@@ -69,6 +69,9 @@ UiOutcome CTableWnd::UserBeginEdit(int row, int column) {
   if (!IsCell(row, column)) return NoSuchCell();
   if (!CanEdit(row, column)) return {L"“" + GetCaption() + L"”的这一单元格不能修改。", L"可以修改的单元格"};
   if (m_edit && m_edit->row == row && m_edit->column == column) return {};
+  // The user gets to a cell by clicking it, and what goes with its row is to be shown before it is edited.
+  outcome = UserClick(row, column);
+  if (!outcome) return outcome;
   if (EditCell(row, column)) return {};
   return {L"正在编辑的内容还没有被接受。", L"先完成编辑，或用 close 关闭"};
 }
