@@ -18,6 +18,10 @@ void readSheet(DxfTags tags, Layout& layout) {
   double bottom = 0;
   double right = 0;
   double top = 0;
+  double shiftX = 0;
+  double shiftY = 0;
+  double paperUnits = 1;
+  double drawingUnits = 1;
   long long units = 1;
   long long turn = 0;
   for (const DxfTag& tag : tags) {
@@ -28,10 +32,15 @@ void readSheet(DxfTags tags, Layout& layout) {
     if (tag.code == 43) top = RealOf(tag);
     if (tag.code == 44) width = RealOf(tag);
     if (tag.code == 45) height = RealOf(tag);
+    if (tag.code == 46) shiftX = RealOf(tag);
+    if (tag.code == 47) shiftY = RealOf(tag);
+    if (tag.code == 142) paperUnits = RealOf(tag, 1);
+    if (tag.code == 143) drawingUnits = RealOf(tag, 1);
     if (tag.code == 72) units = IntegerOf(tag);
     if (tag.code == 73) turn = IntegerOf(tag);
   }
   layout.unit = units == 0 ? kMillimetresPerInch : 1;
+  if (paperUnits > 0 && drawingUnits > 0) layout.unit *= paperUnits / drawingUnits;
   if (!(width > 0 && height > 0)) return;
   // The margins belong to the sheet as it lies in the printer; the origin is where they end.
   if (turn % 2 != 0) {
@@ -39,11 +48,14 @@ void readSheet(DxfTags tags, Layout& layout) {
     const double lowest = turn == 1 ? right : left;
     left = turn == 1 ? bottom : top;
     bottom = lowest;
+    std::swap(shiftX, shiftY);
   } else if (turn == 2) {
     left = right;
     bottom = top;
   }
   const double u = layout.unit;
+  left += shiftX;
+  bottom += shiftY;
   layout.paper = {-left / u, -bottom / u, (width - left) / u, (height - bottom) / u};
 }
 

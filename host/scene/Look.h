@@ -15,6 +15,7 @@ struct Look {
   AcDbObjectId linetype;    // null: drawn through
   double linetypeScale = 1; // the entity's own
   int weight = 25;          // hundredths of a millimetre
+  bool hidden = false;      // nothing of its own is to be seen
 };
 
 // Where entities are drawn: in the space itself, in a block, or through a viewport.

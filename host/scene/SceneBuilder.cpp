@@ -246,10 +246,13 @@ void SceneBuilder::drawEntity(const Frame& frame, const AcDbObjectId& id) {
   const DxfRecord& record = entity->record();
   const std::string_view type = record.type();
   const AcDbObjectId layer = effectiveLayer(frame, *entity);
-  if (isHidden(frame, layer, type == "INSERT")) return;
+  const bool hidden = isHidden(frame, layer, type == "INSERT");
+  if (hidden && type != "VIEWPORT") return; // whose border alone hides with its layer
   EntityTags own;
   const EntityTags& tags = tagsOf(*entity, frame.depth > 0, own);
-  Pen pen(*this, frame, *entity, tags, lookOf(frame, *entity, tags, layer));
+  Look look = lookOf(frame, *entity, tags, layer);
+  look.hidden = hidden;
+  Pen pen(*this, frame, *entity, tags, look);
   if (const Painter painter = PainterOf(type)) return painter(pen);
   WorldDrawPen draw(pen);
   entity->worldDraw(draw);

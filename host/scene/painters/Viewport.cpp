@@ -44,6 +44,23 @@ PathPen border(Pen& pen) {
   return path;
 }
 
+// The sheet has number 1. In a layout that was never shown none has a number, and the sheet's stands first.
+bool isPaperItself(const Pen& pen) {
+  const long long number = pen.tags().integer(69);
+  const auto* layout = AcDbBlockTableRecord::cast(pen.entity().ownerId().object());
+  if (number != 0 || !layout) return number == kPaperItself;
+  for (const AcDbObjectId& id : layout->entities()) {
+    const auto* entity = AcDbEntity::cast(id.object());
+    if (entity && entity->record().type() == "VIEWPORT") return entity == &pen.entity();
+  }
+  return false;
+}
+
+// Whether it shows nothing. Its status tells only which are shown at the moment of saving.
+bool isOff(const EntityTags& tags) {
+  return tags.has(90) ? (tags.integer(90) & kOff) != 0 : tags.integer(68, 1) == 0;
+}
+
 AcDbObjectId objectOf(const Pen& pen, std::string_view handle) {
   AcDbObjectId id;
   pen.database().getAcDbObjectId(id, false, AcDbHandle::fromHex(handle));
@@ -57,17 +74,16 @@ void painters::Viewport(Pen& pen) {
   const AcDbObjectId modelSpace = pen.database().modelSpaceId();
   const auto* model = AcDbBlockTableRecord::cast(modelSpace.object());
   const bool inLayout = !pen.frame().inBlock && pen.entity().ownerId() != modelSpace;
-  if (!inLayout || tags.integer(69) == kPaperItself || !pen.builder().options().viewports || !model) return;
+  if (!inLayout || isPaperItself(pen) || !pen.builder().options().viewports || !model) return;
   // Old files keep the view in extended data.
   if (!tags.has(45)) return pen.leaveOut(L"旧格式的视口内容");
-  const long long flags = tags.integer(90);
   const auto matrix = viewMatrix(tags);
   PathPen outline = border(pen);
-  if (tags.integer(68, 1) == 0 || (flags & kOff) != 0 || !matrix || outline.isBroken()) {
-    pen.stroke(outline, {.solid = true});
+  if (isOff(tags) || !matrix || outline.isBroken()) {
+    if (!pen.look().hidden) pen.stroke(outline, {.solid = true});
     return;
   }
-  if ((flags & kPerspective) != 0) pen.leaveOut(L"视口的透视投影");
+  if ((tags.integer(90) & kPerspective) != 0) pen.leaveOut(L"视口的透视投影");
   std::unordered_set<AcDbObjectId> frozen;
   for (const DxfTag& tag : tags)
     if (tag.code == 331 || tag.code == 341) frozen.insert(objectOf(pen, tag.value));
@@ -76,7 +92,7 @@ void painters::Viewport(Pen& pen) {
   if (const DxfTag* clip = tags.find(340)) {
     Path drawn = pen.builder().outlineOf(objectOf(pen, clip->value));
     if (!drawn.isEmpty()) shape = std::move(drawn);
-  } else {
+  } else if (!pen.look().hidden) {
     pen.stroke(outline, {.solid = true});
   }
   const ge::Box2d visible = BoxOf(shape.view());
