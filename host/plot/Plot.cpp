@@ -1,6 +1,7 @@
 #include "host/plot/Plot.h"
 
 #include "host/plot/ScenePainter.h"
+#include "host/plot/StableSvg.h"
 
 #include <cairo/cairo-pdf.h>
 #include <cairo/cairo-svg.h>
@@ -93,6 +94,7 @@ PlotResult Plot(const scene::Scene& scene, Format format, const PlotOptions& opt
     status = cairo_surface_write_to_png_stream(surface.get(), append, &result.bytes);
   cairo_surface_finish(surface.get());
   if (status == CAIRO_STATUS_SUCCESS) status = cairo_surface_status(surface.get());
+  if (format == Format::svg) result.bytes = StableSvg(result.bytes);
   result.ok = status == CAIRO_STATUS_SUCCESS;
   if (!result.ok) {
     result.bytes.clear();

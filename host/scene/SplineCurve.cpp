@@ -7,7 +7,7 @@ namespace scene {
 namespace {
 
 constexpr int kMaxDegree = 11;
-constexpr int kPiecesPerSpan = 4; // of a curve that is no cubic
+constexpr int kPiecesPerSpan = 8; // of a curve that is no cubic
 
 struct Homogeneous {
   double x = 0, y = 0, z = 0, w = 0;
