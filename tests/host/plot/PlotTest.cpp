@@ -1,4 +1,5 @@
 #include "host/plot/Plot.h"
+#include "ZpPaths.h"
 #include "host/db/AcDbDatabase.h"
 #include "host/dxf/DrawingFile.h"
 #include "host/plot/FontMetrics.h"

@@ -1,3 +1,4 @@
+#include "ZpPaths.h"
 #include "tests/host/scene/Picture.h"
 
 #include <gtest/gtest.h>
