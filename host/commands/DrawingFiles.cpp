@@ -2,6 +2,7 @@
 
 #include "host/afx/AtomicFile.h"
 #include "host/afx/Paths.h"
+#include "host/commands/FileVersionPrompt.h"
 #include "host/db/AcDbBlockTable.h"
 #include "host/db/AcDbLayerTable.h"
 #include "host/ed/AcApDocManager.h"
@@ -49,9 +50,21 @@ CString withExtension(const CString& path) {
   return fs::path(afx::NativePath(path)).has_extension() ? path : path + L".dxf";
 }
 
+void printLosses(const std::vector<CString>& losses) {
+  for (const CString& loss : losses) acutPrintText(L"\n  " + loss);
+  if (!losses.empty()) acutPrintText(L"\n");
+}
+
+// The front end is told how far a long task is, and may end it.
+dxf::Progress progressOf(const wchar_t* task) {
+  auto* frontEnd = EdSession::instance().frontEnd();
+  if (!frontEnd) return {};
+  return [frontEnd, task](double done) { return frontEnd->showProgress(task, done); };
+}
+
 bool write(AcApDocument& document, const CString& path) {
   ed::FileView(document);
-  const auto report = dxf::WriteDrawing(*document.database(), path);
+  const auto report = dxf::WriteDrawing(*document.database(), path, {{}, progressOf(L"存图")});
   if (!report.ok) {
     EdSession::instance().refuse(report.error, L"可写的文件夹和文件名；原文件未改动");
     return false;
@@ -59,6 +72,20 @@ bool write(AcApDocument& document, const CString& path) {
   document.database()->setModified(false);
   document.setRescueBeforeSave(false);
   acutPrintf(L"\n已保存 %s\n", path);
+  printLosses(report.losses);
+  return true;
+}
+
+bool saveUnder(AcApDocument& document, const CString& path) {
+  auto* other = acDocManager->documentOfFile(path);
+  if (other == &document) return SaveDrawing(document);
+  if (other) {
+    EdSession::instance().refuse(L"文件“" + path + L"”是另一个打开着的图形，未保存。", L"另一个文件名");
+    return false;
+  }
+  if (!MayReplace(path, L"未保存") || !write(document, path)) return false;
+  document.setFileName(path);
+  acDocManager->titleChanged(document);
   return true;
 }
 
@@ -93,6 +120,7 @@ bool OpenDrawing(const CString& path, bool recover) {
   dxf::ReadReport report;
   dxf::ReadOptions options;
   options.recover = recover;
+  options.progress = progressOf(L"读图");
   auto* document = acDocManager->openDocument(path, report, options);
   if (!document) {
     session.refuse(report.error,
@@ -119,19 +147,18 @@ bool SaveDrawing(AcApDocument& document) {
 }
 
 bool SaveDrawingAs(AcApDocument& document) {
-  const auto answer = ed::AskText({L"输入文件名:", {}, RSG_NONULL, {}});
-  if (!answer.hasValue()) return false;
-  const CString path = withExtension(CString(answer.text).Trim());
-  auto* other = acDocManager->documentOfFile(path);
-  if (other == &document) return SaveDrawing(document);
-  if (other) {
-    EdSession::instance().refuse(L"文件“" + path + L"”是另一个打开着的图形，未保存。", L"另一个文件名");
-    return false;
+  DrawingForm& form = document.database()->form();
+  const std::string before = form.saveVersion;
+  ed::Answer answer;
+  for (;;) {
+    answer = ed::AskText({L"输入文件名或 [版本(V)]:", L"V 版本 _ Version Version", RSG_NONULL, {}});
+    if (!answer.isKeyword(L"Version")) break;
+    if (const auto version = AskFileVersion(*document.database())) form.saveVersion = *version;
   }
-  if (!MayReplace(path, L"未保存") || !write(document, path)) return false;
-  document.setFileName(path);
-  acDocManager->titleChanged(document);
-  return true;
+  const CString path = withExtension(CString(answer.text).Trim());
+  if (answer.hasValue() && saveUnder(document, path)) return true;
+  form.saveVersion = before;
+  return false;
 }
 
 } // namespace commands

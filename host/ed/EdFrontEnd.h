@@ -45,6 +45,9 @@ class EdFrontEnd {
   virtual EdBoxResult messageBox(const EdMessageBox& box) = 0;
   virtual void lineRefused(const EdRefusal& refusal) = 0;
 
+  // A long task, such as 读图, is so far done, 0 to 1. False cancels it; the drawing and its file are then as
+  // before.
+  virtual bool showProgress(const CString& /*task*/, double /*done*/) { return true; }
   // The document's picture is to be drawn anew.
   virtual void regenerate(AcApDocument&) {}
   // Another part of the document is to be shown, see ed::CurrentView.

@@ -18,6 +18,7 @@ class ScriptedFrontEnd : public EdFrontEnd {
   std::deque<std::size_t> answers; // of message boxes; the default where there is none
   std::vector<CString> prompts;    // of all lines that were echoed
   int regenerations = 0;
+  bool cancelsTasks = false;
   std::optional<double> aperture;
   std::function<void()> beforeLine; // what the user does with the mouse before the next line
   std::function<void()> onTransients;
@@ -43,6 +44,7 @@ class ScriptedFrontEnd : public EdFrontEnd {
     return {answer, true};
   }
   void lineRefused(const EdRefusal& refusal) override { refusals.push_back(refusal); }
+  bool showProgress(const CString&, double) override { return !cancelsTasks; }
   void regenerate(AcApDocument&) override { ++regenerations; }
   void transientsChanged() override {
     if (onTransients) onTransients();

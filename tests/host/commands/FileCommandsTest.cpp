@@ -25,6 +25,44 @@ TEST_F(FileCommands, SaveAsNamesTheDrawingAndSaveKeepsTheName) {
   EXPECT_TRUE(frontEnd.said(L"实体 2 个"));
 }
 
+TEST_F(FileCommands, SaveAsWritesInTheVersionAskedFor) {
+  run(L"PLINE", {L"0,0", L"1,0", L"2,5", L""});
+  frontEnd.answers = {0};
+  run(L"SAVEAS", {L"版本", L"R12", file("r12.dxf")});
+  ASSERT_FALSE(refused()) << reason().ToUtf8();
+  EXPECT_NE(std::string::npos, read(file("r12.dxf")).find("AC1009"));
+  EXPECT_NE(std::string::npos, read(file("r12.dxf")).find("POLYLINE"));
+  EXPECT_TRUE(frontEnd.said(L"R12 格式不能保存"));
+  run(L"SAVE");
+  EXPECT_NE(std::string::npos, read(file("r12.dxf")).find("AC1009")) << "the version stays";
+  run(L"SAVEAS", {L"V", L"R2013", file("new.dxf")});
+  EXPECT_FALSE(refused()) << reason().ToUtf8();
+  EXPECT_NE(std::string::npos, read(file("new.dxf")).find("AC1027"));
+}
+
+TEST_F(FileCommands, AVersionThatWouldLoseSomethingIsNotTakenUnasked) {
+  run(L"SAVEAS", {L"V", L"R12", file("same.dxf")});
+  EXPECT_TRUE(refused());
+  EXPECT_NE(std::string::npos, read(file("same.dxf")).find("AC1027"));
+}
+
+TEST_F(FileCommands, ALongTaskCanBeCancelled) {
+  for (int i = 0; i < 5000; ++i) add(new AcDbPoint(AcGePoint3d(i, 0, 0)));
+  run(L"SAVEAS", {file("a.dxf")});
+  const std::string whole = read(file("a.dxf"));
+  frontEnd.cancelsTasks = true;
+  add(new AcDbPoint(AcGePoint3d(0, 1, 0)));
+  run(L"SAVE");
+  EXPECT_TRUE(refused());
+  EXPECT_TRUE(reason().Find(L"存图已取消") >= 0) << reason().ToUtf8();
+  EXPECT_EQ(whole, read(file("a.dxf")));
+  EXPECT_TRUE(database().isModified());
+  write(file("b.dxf"), whole);
+  run(L"OPEN", {file("b.dxf")});
+  EXPECT_TRUE(reason().Find(L"读图已取消") >= 0) << reason().ToUtf8();
+  EXPECT_EQ(1u, acDocManager->documentCount());
+}
+
 TEST_F(FileCommands, SaveAsksForANameWhereThereIsNone) {
   run(L"SAVE", {file("new.dxf")});
   EXPECT_TRUE(fs::exists(file("new.dxf").ToUtf8()));
