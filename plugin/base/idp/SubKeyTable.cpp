@@ -55,6 +55,13 @@ std::size_t SubKeyTable::FindPlace(const CompactValue& key) {
     const std::size_t place = ListNumber(key.Text()).value_or(kNowhere);
     return place < m_subKeys.size() ? place : kNowhere;
   }
+  std::size_t place = m_expected;
+  if (place >= m_subKeys.size() || !key.IsSameText(m_subKeys[place].key)) place = SearchPlace(key);
+  if (place != kNowhere) m_expected = static_cast<std::uint32_t>(place + 1);
+  return place;
+}
+
+std::size_t SubKeyTable::SearchPlace(const CompactValue& key) {
   if (m_subKeys.size() < kIndexFrom) {
     for (std::size_t place = 0; place < m_subKeys.size(); ++place) {
       if (key.IsSameText(m_subKeys[place].key)) return place;

@@ -1,6 +1,6 @@
 // The sub-keys of one node in the order of their creation, found by name at the same cost however many there
-// are: a numbered list by the number itself, a few sub-keys one by one, more through an index that the
-// first search builds.
+// are: a numbered list by the number itself, one behind the last that was found at once, since records are
+// mostly read in their order, a few sub-keys one by one, more through an index that the first search builds.
 #pragma once
 
 #include <cstdint>
@@ -37,6 +37,7 @@ class SubKeyTable {
   static constexpr std::size_t kNowhere = static_cast<std::size_t>(-1);
 
   std::size_t FindPlace(const CompactValue& key);
+  std::size_t SearchPlace(const CompactValue& key);
   void BuildIndex();
   void CloseGaps();
   void MoveNodesTo(CIDPEx*& list);
@@ -45,6 +46,7 @@ class SubKeyTable {
   KeyIndex m_index;                // empty until the first search that needs it
   std::uint32_t m_gaps = 0;        // removed ones in m_subKeys; the last element is never one
   std::uint32_t m_leadingGaps = 0; // those before the first that is not removed
+  std::uint32_t m_expected = 0;    // where the next search looks first; the key there decides
   bool m_numbered = true;          // the keys are "0", "1", "2" and so on, each at its place
   CIDPEx* m_nextToFree = nullptr;  // links the nodes that Clear still has to free
 };
