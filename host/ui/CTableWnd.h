@@ -69,6 +69,10 @@ class CTableWnd : public CWnd {
   // Both corners are part of the block; the text of the first cell is shown.
   void MergeCells(int firstRow, int firstColumn, int lastRow, int lastColumn);
 
+  // By which a front end remembers the widths that the user gave the columns; empty for not at all.
+  void SetStateName(const CString& name) { m_stateName = name; }
+  const CString& StateName() const { return m_stateName; }
+
   // Files of the pictures that SetCellImage counts.
   const std::vector<CString>& Images() const { return m_images; }
   void SetImages(std::vector<CString> files);
@@ -139,6 +143,7 @@ class CTableWnd : public CWnd {
   std::vector<UiColumn> m_columns;
   std::vector<UiRow> m_rows;
   std::vector<CString> m_images;
+  CString m_stateName;
   std::set<int> m_selected;
   int m_focusRow = -1;
   int m_focusColumn = -1;

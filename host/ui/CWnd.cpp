@@ -28,6 +28,11 @@ void CWnd::SetToolTip(const CString& text) {
   Notify(UiChange::Kind::look);
 }
 
+void CWnd::SetFont(const UiFont& font) {
+  m_font = font;
+  Notify(UiChange::Kind::look);
+}
+
 void CWnd::EnableWindow(bool enable) {
   if (m_enabled == enable) return;
   m_enabled = enable;

@@ -14,6 +14,11 @@
 
 class CFormWnd;
 
+struct UiFont {
+  CString face;   // empty for the front end's own
+  int height = 0; // pixels at 96 dpi; 0 for the front end's own
+};
+
 class CWnd {
  public:
   // A window of its own.
@@ -37,6 +42,9 @@ class CWnd {
   // Tells controls of one caption apart: a button beside a list belongs to that list.
   void SetBelongsTo(const CWnd& other) { m_belongsTo = &other; }
   const CWnd* BelongsTo() const { return m_belongsTo; }
+
+  const UiFont& GetFont() const { return m_font; }
+  void SetFont(const UiFont& font);
 
   bool IsWindowEnabled() const { return m_enabled; }
   void EnableWindow(bool enable);
@@ -79,6 +87,7 @@ class CWnd {
   CFormWnd* m_form = nullptr;
   CString m_caption;
   CString m_toolTip;
+  UiFont m_font;
   const CWnd* m_belongsTo = nullptr;
   bool m_captionShown = true;
   bool m_enabled = true;

@@ -38,6 +38,11 @@ TEST(PlugInFile, ShowsWhatSiblingsCall) {
            "CZPPipeMaterialManager::GetInstance()",
            "CZPPipeMaterial::GetLabelText(CString const&) const",
            "ZP::GetDNFromPreDN(CString const&)",
+           "ZP::ShowPipeMaterialDlg(CWnd*)",
+           "ZP::ShowPipeMaterialDlg(CZPPipeMaterial*&, CWnd*)",
+           "ZP::ShowDuctMaterialDlg(CWnd*)",
+           "ZP::ShowDuctMaterialDlg(CZPDuctMaterial*&, CWnd*)",
+           "ZP::ShowFVMngDlg(CWnd*)",
            "CZPLocalResistanceMng::GetInstance()",
            "CZPLocalResistanceMng::SaveData()",
            "CZPPipePartsCoe::GetCoe(CString const&) const",
@@ -75,7 +80,8 @@ TEST(PlugInFile, HidesEverythingElse) {
   for (const std::string& name : VisibleNames()) {
     EXPECT_EQ(name.find("CZPGroupLayer::"), std::string::npos) << name;
     EXPECT_EQ(name.find("for CZPGroupLayer"), std::string::npos) << name;
-    for (const char* internal : {"layers::", "module::", "xdata::", "idp::", "simdjson", "CommandTable",
+    for (const char* internal : {"layers::", "pipes::", "notice::", "dialogs::", "CZPPipeManagerDlg",
+                                 "module::", "xdata::", "idp::", "simdjson", "CommandTable",
                                  "VkDefineCommand", "DocumentData", "AsdkDataManager"})
       EXPECT_NE(name.rfind(internal, 0), 0u) << name;
     EXPECT_NE(name.rfind("std::", 0), 0u) << name;
