@@ -5,6 +5,7 @@
 #include "plugin/fancoil/OldCatalogueImport.h"
 #include "plugin/layers/LayerService.h"
 #include "tests/support/ScriptedEditor.h"
+#include "tests/support/TempInstall.h"
 
 namespace {
 
@@ -52,6 +53,7 @@ TEST(CommandTable, ImportsOldFanCoilsWithoutADialog) {
 
 // The commands that only say so: whoever provides one takes it off this list.
 TEST(CommandTable, TellsWhichCommandsAreMissing) {
+  const TempInstall install; // dialogs save as they go, also those that nobody can see
   ScriptedEditor editor;
   std::vector<std::string> missing;
   for (const VkCmdTable& row : CommandTable()) {
