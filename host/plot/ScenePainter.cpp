@@ -13,8 +13,7 @@
 namespace plot {
 namespace {
 
-constexpr double kFar = 10'000;         // millimetres off the page that painting can still hold
-constexpr double kFinestPattern = 0.15; // millimetres of a pattern's length, below which it is a line
+constexpr double kFar = 10'000; // millimetres off the page that painting can still hold
 constexpr std::size_t kMostDashes = 100'000;
 constexpr scene::Rgb kPaper{255, 255, 255};
 
@@ -113,6 +112,15 @@ void ScenePainter::addPath(scene::PathView path) {
   }
 }
 
+// The round ends of dashes close gaps that are no wider than the line.
+bool ScenePainter::showsGaps(const scene::Pattern& pattern, const scene::Primitive& primitive) const {
+  constexpr double kNarrowest = 0.05; // millimetres that an eye can see
+  double widest = 0;
+  for (const double dash : pattern.dashes) widest = std::max(widest, -dash * m_page.scale);
+  const double closed = primitive.width > 0 ? 0 : std::max(primitive.weight / 100.0, m_finest);
+  return widest > closed + kNarrowest;
+}
+
 void ScenePainter::stroke(const scene::Primitive& primitive, scene::PathView path) {
   scene::Path near;
   if (isFar(path)) {
@@ -124,8 +132,7 @@ void ScenePainter::stroke(const scene::Primitive& primitive, scene::PathView pat
   scene::Path dashed;
   if (primitive.pattern != scene::Primitive::kNone) {
     const scene::Pattern& pattern = m_scene.patterns[static_cast<std::size_t>(primitive.pattern)];
-    if (pattern.length() * m_page.scale >= kFinestPattern &&
-        scene::AddDashes(path, pattern, kMostDashes, dashed))
+    if (showsGaps(pattern, primitive) && scene::AddDashes(path, pattern, kMostDashes, dashed))
       path = dashed.view();
   }
   const bool wide = primitive.width > 0;

@@ -18,6 +18,7 @@ class ScenePainter {
   void paintPrimitive(const scene::Primitive& primitive);
   void setClip(std::int32_t clip);
   void setColor(const scene::Color& color);
+  bool showsGaps(const scene::Pattern& pattern, const scene::Primitive& primitive) const;
   void stroke(const scene::Primitive& primitive, scene::PathView path);
   void fill(const scene::Primitive& primitive);
   void text(const scene::TextRun& run);

@@ -45,7 +45,11 @@ bool ReadCoordinate(const DxfTag& tag, int code, AcGePoint3d& point) {
   return true;
 }
 
-EntityTags::EntityTags(DxfRecord record) : m_record(std::move(record)), m_all(m_record.tags()) {
+EntityTags::EntityTags(DxfRecord record) : m_record(std::move(record)) {
+  constexpr std::size_t kUsualTags = 48;
+  m_all.reserve(kUsualTags);
+  DxfTagReader reader(m_record.text());
+  for (DxfTag tag; reader.next(tag);) m_all.push_back(tag);
   const DxfTags inside = DxfTags(m_all).first(endOfOwn(m_all));
   m_own = inside.subspan(beginOfOwn(inside));
 }

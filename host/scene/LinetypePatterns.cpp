@@ -2,6 +2,7 @@
 
 #include "host/db/AcDbLinetypeTable.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace scene {
@@ -23,6 +24,16 @@ std::int32_t LinetypePatterns::find(const AcDbObjectId& linetype, double scale, 
   }
   m_known.emplace(key, index);
   return index;
+}
+
+bool LinetypePatterns::hasFigures(const AcDbObjectId& linetype) {
+  const auto* record = AcDbLinetypeTableRecord::cast(linetype.object());
+  if (!record) return false;
+  const auto tags = record->record().tags();
+  const auto own = dxfOwnTags(tags);
+  return std::any_of(own.begin(), own.end(), [](const DxfTag& tag) {
+    return tag.code == 74 && dxf::toInteger(tag.value).value_or(0) != 0;
+  });
 }
 
 } // namespace scene

@@ -15,6 +15,8 @@ class LinetypePatterns {
   // dashes.
   std::int32_t find(const AcDbObjectId& linetype, double scale, bool bySegment,
                     std::vector<Pattern>& patterns);
+  // Whether letters or shapes belong to its dashes, which the patterns don't have.
+  static bool hasFigures(const AcDbObjectId& linetype);
 
  private:
   std::map<std::tuple<const void*, double, bool>, std::int32_t> m_known;

@@ -105,7 +105,11 @@ std::int32_t SceneBuilder::addClip(Path path, std::int32_t within) {
 
 std::int32_t SceneBuilder::pattern(const Look& look, double linetypeLength, bool bySegment) {
   const double scale = m_variables.linetypeScale * look.linetypeScale * linetypeLength;
-  return m_linetypes.find(look.linetype, scale, bySegment, m_scene.patterns);
+  const std::size_t known = m_scene.patterns.size();
+  const std::int32_t index = m_linetypes.find(look.linetype, scale, bySegment, m_scene.patterns);
+  if (m_scene.patterns.size() > known && LinetypePatterns::hasFigures(look.linetype))
+    m_leftOut.add(L"线型中的文字和形未画", look.linetype.handle());
+  return index;
 }
 
 void SceneBuilder::exhaust(const wchar_t* what) {

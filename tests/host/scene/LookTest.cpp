@@ -67,6 +67,13 @@ TEST(Look, ScalesOfLinetypesMultiply) {
   EXPECT_EQ((std::vector{3.0, -1.5}), p.scene.patterns.at(0).dashes);
 }
 
+TEST(Look, LettersInLinetypesAreTold) {
+  const std::string gas = "0 LTYPE|2 GAS|70 0|3 x|72 65|73 2|40 2|49 1|74 0|49 -1|74 2|75 0|340 0|46 1|9 GAS";
+  const Picture p(Parts{.entities = line("8 0|6 GAS"), .linetypes = gas});
+  EXPECT_EQ((std::vector{1.0, -1.0}), p.scene.patterns.at(0).dashes);
+  EXPECT_TRUE(p.toldOf(L"线型中的文字和形"));
+}
+
 TEST(Look, AnInsertionsScaleStretchesDashes) {
   const Picture p = picture("0 INSERT|8 0|2 b|10 0|20 0|41 4|42 4", block("b", line("8 red")));
   EXPECT_EQ((std::vector{2.0, -1.0}), p.scene.patterns.at(0).dashes);
