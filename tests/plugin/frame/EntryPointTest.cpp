@@ -8,6 +8,7 @@
 #include "host/ed/AcRxDictionary.h"
 #include "plugin/frame/CommandTable.h"
 #include "tests/support/ScriptedEditor.h"
+#include "tests/support/TempInstall.h"
 
 namespace {
 
@@ -104,6 +105,7 @@ TEST(VkDefineCommand, RegistersTheOtherRowsWhenOneIsRefused) {
 // Import as the old data's owner defines it opens no dialog, so it must leave the resources alone; so must
 // the layer commands.
 TEST_F(EntryPoint, HasNoCommandThatLeavesResourcesPushed) {
+  const TempInstall install; // dialogs save as they go
   ScriptedEditor editor;
   acrxEntryPoint(AcRx::kInitAppMsg, nullptr);
   for (const VkCmdTable& row : CommandTable()) {
