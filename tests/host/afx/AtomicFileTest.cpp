@@ -251,4 +251,41 @@ TEST(ReadWholeFile, WhatIsNoReadableFileGivesAReasonAndNoBytes) {
   }
 }
 
+TEST(AtomicFileWriter, TakesItsContentInPieces) {
+  const TemporaryFolder folder;
+  folder.Put("a", "old");
+  afx::AtomicFileWriter file(folder / "a");
+  EXPECT_TRUE(file.Write("one "));
+  EXPECT_EQ(folder.Get("a"), "old");
+  EXPECT_TRUE(file.Write("two"));
+  EXPECT_TRUE(file.Commit().ok);
+  EXPECT_EQ(folder.Get("a"), "one two");
+  EXPECT_THAT(folder.Names(), ElementsAre("a"));
+}
+
+TEST(AtomicFileWriter, WithoutCommitLeavesTheOldFileAndNothingElse) {
+  const TemporaryFolder folder;
+  folder.Put("a", "old");
+  {
+    afx::AtomicFileWriter file(folder / "a");
+    EXPECT_TRUE(file.Write("new"));
+  }
+  EXPECT_EQ(folder.Get("a"), "old");
+  EXPECT_THAT(folder.Names(), ElementsAre("a"));
+}
+
+TEST(AtomicFileWriter, AfterAFailureTakesNothingMore) {
+  const TemporaryFolder folder;
+  folder.Put("a", "old");
+  const FileSizeLimit limit(1000);
+  afx::AtomicFileWriter file(folder / "a");
+  EXPECT_TRUE(file.Write("begin"));
+  EXPECT_FALSE(file.Write(std::string(2000, 'x')));
+  EXPECT_FALSE(file.Write("end"));
+  const afx::FileResult result = file.Commit();
+  EXPECT_FALSE(result.ok);
+  EXPECT_THAT(result.message.ToUtf8(), HasSubstr("无法写入文件"));
+  EXPECT_EQ(folder.Get("a"), "old");
+}
+
 } // namespace
