@@ -21,15 +21,15 @@ class ZP_EXPORT CFCUEquipment : public CZPObject {
   CZPObject* GetParent() const { return m_pParent; }
 
   // Places for two values that a caller works out for the unit. Kept in memory only.
-  void SetRealQ(double value) { m_dbRealQ = value; }
-  double GetRealQ() const { return m_dbRealQ; }
-  void SetRealG(double value) { m_dbRealG = value; }
-  double GetRealG() const { return m_dbRealG; }
+  void SetRealQ(double value) { RealQ = value; }
+  double GetRealQ() const { return RealQ; }
+  void SetRealG(double value) { RealG = value; }
+  double GetRealG() const { return RealG; }
 
   SKTFCUEquipmentData m_data;
 
  private:
-  double m_dbRealQ = 0.0;
-  double m_dbRealG = 0.0;
+  double RealQ = 0.0;
+  double RealG = 0.0;
   CZPObject* m_pParent = nullptr;
 };
