@@ -1,5 +1,6 @@
 // Giving a layer of the drawing the look of its definition.
 #include "host/db/AcDbTables.h"
+#include "plugin/graph/HostLineWeight.h"
 #include "plugin/graph/Xdata.h"
 #include "plugin/layers/CZPLayer.h"
 #include "plugin/layers/CZPManagerLayer.h"
@@ -36,14 +37,6 @@ void SetLinetype(AcDbLayerTableRecord& record, const CString& name) {
   record.setLinetypeObjectId(linetype);
 }
 
-// Cut towards zero and not rounded, as drawings have it: 0.29 mm is 28 and thus no weight that the host
-// takes. The cut is made within the range of int, so that no number of a damaged file is undefined.
-AcDb::LineWeight HostLineWeight(double millimetres) {
-  const double hundredths = millimetres * 100.0;
-  const bool held = hundredths > -1e9 && hundredths < 1e9;
-  return static_cast<AcDb::LineWeight>(held ? static_cast<int>(hundredths) : -1000);
-}
-
 } // namespace
 
 bool ZP::SetUserLayerTableRecord(AcDbLayerTableRecord* record, const CString& korLayer) {
@@ -57,6 +50,6 @@ bool ZP::SetUserLayerTableRecord(AcDbLayerTableRecord* record, const CString& ko
   color.setColorIndex(definition->GetColorIndex());
   record->setColor(color);
   SetLinetype(*record, definition->GetLineType());
-  record->setLineWeight(HostLineWeight(definition->GetLineWeight()));
+  if (const auto weight = HostLineWeight(definition->GetLineWeight() * 100.0)) record->setLineWeight(*weight);
   return true;
 }
