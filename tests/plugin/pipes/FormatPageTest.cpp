@@ -8,6 +8,7 @@
 #include "ZpPaths.h"
 #include "plugin/base/NumberText.h"
 #include "plugin/pipes/PipeFields.h"
+#include "plugin/pipes/attributes/PipeKeys.h"
 #include "plugin/pipes/ducts/DuctFields.h"
 #include "plugin/pipes/limits/LimitFields.h"
 
@@ -73,6 +74,15 @@ TEST(FormatPageOfPipeLimit, TellsEveryField) {
   for (const PipeLimitField& field : kPipeLimitFields)
     page.ExpectField(field.key, limit.*field.range.*field.bound, field.unit);
   page.ExpectKey(kLimitSection);
+}
+
+TEST(FormatPageOfExtendedData, TellsEveryKeyOfPipes) {
+  const FormatPage page("extended_data.md");
+  for (const wchar_t* key :
+       {pipes::kMaterialKey, pipes::kDnKey, pipes::kFlowRateKey, pipes::kFlowVelocityKey,
+        pipes::kFrictionLossKey, pipes::kRunResistanceKey, pipes::kLengthKey, pipes::kElevationKey,
+        pipes::kStartElevationKey, pipes::kEndElevationKey, pipes::kCodeKey, pipes::kCodePrefixKey})
+    page.ExpectKey(key);
 }
 
 } // namespace
