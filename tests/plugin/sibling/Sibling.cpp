@@ -6,6 +6,7 @@
 #include "host/ed/acutPrintf.h"
 #include "plugin/graph/DrawingSettings.h"
 #include "plugin/layers/LayerService.h"
+#include "tests/plugin/sibling/PipeCommands.h"
 
 namespace {
 
@@ -46,6 +47,7 @@ extern "C" __attribute__((visibility("default"))) int acrxEntryPoint(int message
     acedRegCmds->addCommand(kGroup, L"TEST_USERLAYER", L"TEST_USERLAYER", 0, GetUserLayer);
     acedRegCmds->addCommand(kGroup, L"TEST_KORLAYER", L"TEST_KORLAYER", 0, GetKOrLayer);
     acedRegCmds->addCommand(kGroup, L"TEST_SCALE", L"TEST_SCALE", 0, SetOutDwgScale);
+    AddPipeCommands(kGroup);
   }
   if (message == AcRx::kUnloadAppMsg) acedRegCmds->removeGroup(kGroup);
   return AcRx::kRetOK;
