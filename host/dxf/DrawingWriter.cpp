@@ -53,11 +53,25 @@ void dxf::DrawingWriter::told() {
   m_cancelled = !m_options.progress(std::min(1.0, static_cast<double>(m_objectsWritten) / all));
 }
 
+void dxf::DrawingWriter::put(std::string_view text) {
+  if (m_converter && m_converter->isToUtf8())
+    putCopy(text);
+  else
+    m_out.put(text);
+}
+
+void dxf::DrawingWriter::putCopy(std::string_view text) {
+  if (m_converter && m_converter->isToUtf8())
+    m_out.putCopy(m_converter->inUtf8(text));
+  else
+    m_out.putCopy(text);
+}
+
 void dxf::DrawingWriter::put(const AcDbObject& object) {
   told();
   const std::string_view text = object.record().text();
   if (const auto converted = m_converter ? m_converter->record(object) : std::nullopt)
-    m_out.putCopy(*converted);
+    putCopy(*converted);
   else
     put(text);
   if (!m_strays.empty()) putStrays(DrawingForm::Stray::behindRecord, object.objectId().stub());
@@ -134,7 +148,7 @@ bool dxf::DrawingWriter::write() {
   putStrays(DrawingForm::Stray::behindTail, nullptr, static_cast<std::size_t>(-1));
   for (std::size_t i = 0; i < list.size() && !m_cancelled; ++i) {
     const DrawingForm::Section& section = list[i];
-    if (section.head.isEmpty()) m_out.putCopy(sectionHead(section.name));
+    if (section.head.isEmpty()) putCopy(sectionHead(section.name));
     put(section.head.text());
     // The variables of a header stand in its own record.
     if (section.name != "HEADER") putStrays(DrawingForm::Stray::behindHead, nullptr, i);
@@ -169,7 +183,7 @@ void dxf::DrawingWriter::writeSection(std::string_view name) {
 void dxf::DrawingWriter::writeClasses() {
   for (const DxfRecord& record : m_form.classes) {
     if (m_converter)
-      m_out.putCopy(m_converter->classRecord(record.text()));
+      putCopy(m_converter->classRecord(record.text()));
     else
       put(record.text());
   }
@@ -196,11 +210,11 @@ void dxf::DrawingWriter::writeHeader() {
       isHighEnough ? std::string()
                    : AcDbHeader::withVariable(text, "$HANDSEED", DxfRecordEditor::tag(5, needed.toHex()));
   if (m_converter)
-    m_out.putCopy(m_converter->header(isHighEnough ? text : raised));
+    putCopy(m_converter->header(isHighEnough ? text : raised));
   else if (isHighEnough)
     put(text);
   else
-    m_out.putCopy(raised);
+    putCopy(raised);
 }
 
 void dxf::DrawingWriter::writeTables() {
@@ -274,7 +288,7 @@ void dxf::DrawingWriter::writeEntities(std::uint32_t endRank) {
 void dxf::DrawingWriter::writeObjects() {
   for (const AcDbObjectId& id : m_database.objects())
     if (isWanted(*id.object())) put(*id.object());
-  if (m_converter) m_out.putCopy(m_converter->addedObjects());
+  if (m_converter) putCopy(m_converter->addedObjects());
 }
 
 std::vector<CString> dxf::DrawingWriter::losses() const {

@@ -31,7 +31,9 @@ class DrawingWriter {
 
  private:
   std::vector<DrawingForm::Section> sections();
-  void put(std::string_view text) { m_out.put(text); }
+  // Text that outlives the writer, and text that goes away.
+  void put(std::string_view text);
+  void putCopy(std::string_view text);
   void put(const AcDbObject& object);
   void putEntity(const AcDbEntity& entity);
   bool isWanted(const AcDbObject& object) const;

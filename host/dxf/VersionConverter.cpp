@@ -109,34 +109,27 @@ std::string dxf::VersionConverter::header(std::string_view variables) {
   if (!hasSeed) text += DxfRecordEditor::tag(9, "$HANDSEED") + DxfRecordEditor::tag(5, seed().toHex());
   // Without it R12 passes over handles.
   if (m_toR12 && !m_fromR12) text += DxfRecordEditor::tag(9, "$HANDLING") + DxfRecordEditor::tag(70, "1");
-  return inUtf8(std::move(text));
+  return text;
 }
 
 // The number of its instances stands in a class from R2004 on.
-std::string dxf::VersionConverter::classRecord(std::string_view record) {
+std::string dxf::VersionConverter::classRecord(std::string_view record) const {
   std::string text;
   DxfTagReader reader(record);
   for (DxfTag tag; reader.next(tag);)
     if (tag.code != 91 || m_target >= kR2004) append(text, tag);
-  return inUtf8(std::move(text));
-}
-
-std::optional<std::string> dxf::VersionConverter::record(const AcDbObject& object) {
-  const std::string_view text = object.record().text();
-  auto converted = inVersion(object, dxfTagsOf(text));
-  if (!m_toUtf8) return converted;
-  return inUtf8(converted ? std::move(*converted) : std::string(text));
-}
-
-// Bytes that the code page of the drawing leaves open have no place in UTF-8.
-std::string dxf::VersionConverter::inUtf8(std::string text) {
-  if (!m_toUtf8) return text;
-  const std::size_t count = replaceUnexplainedBytes(text);
-  if (count > 0) m_losses.add(L"无法识别的字节", count);
   return text;
 }
 
-std::optional<std::string> dxf::VersionConverter::inVersion(const AcDbObject& object, DxfTags tags) {
+std::string dxf::VersionConverter::inUtf8(std::string_view text) {
+  std::string changed(text);
+  const std::size_t count = replaceUnexplainedBytes(changed);
+  if (count > 0) m_losses.add(L"无法识别的字节", count);
+  return changed;
+}
+
+std::optional<std::string> dxf::VersionConverter::record(const AcDbObject& object) {
+  const auto tags = dxfTagsOf(object.record().text());
   if (m_fromR12) return m_toR12 ? std::nullopt : std::optional(withLayouts(object, fromR12(object, tags)));
   if (m_toR12) return asR12(object, tags);
   if (m_addsOwners) return withLayouts(object, withOwner(object, object.record().text(), tags));

@@ -25,9 +25,13 @@ class VersionConverter {
   // Whether a block's definition is written.
   bool hasBlock(const AcDbObject& block);
   std::string header(std::string_view variables);
-  std::string classRecord(std::string_view text);
+  std::string classRecord(std::string_view text) const;
   // Nothing: as it stands. An empty text: not written.
   std::optional<std::string> record(const AcDbObject& object);
+  // Whether text goes from a code page to UTF-8, in which bytes that the page leaves open have no place:
+  // inUtf8 is for every text of the file then.
+  bool isToUtf8() const { return m_toUtf8; }
+  std::string inUtf8(std::string_view text);
   // What the version asks for and the drawing has nowhere, at the end of OBJECTS.
   std::string addedObjects() const;
 
@@ -36,8 +40,6 @@ class VersionConverter {
   std::vector<CString> losses() const;
 
  private:
-  std::optional<std::string> inVersion(const AcDbObject& object, DxfTags tags);
-  std::string inUtf8(std::string text);
   // Records of R2000 and later, without what is newer than the target.
   std::optional<std::string> reduced(DxfTags tags);
   std::optional<std::string> asR12(const AcDbObject& object, DxfTags tags);
@@ -60,7 +62,7 @@ class VersionConverter {
   std::string m_target;
   bool m_toR12;
   bool m_fromR12;
-  bool m_toUtf8;     // from a code page
+  bool m_toUtf8;
   bool m_addsOwners; // drawings before R2000 do without
   std::vector<Layout> m_layouts;
   AcDbHandle m_layoutDictionary;

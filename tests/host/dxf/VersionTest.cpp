@@ -203,6 +203,8 @@ TEST(Version, InUtf8HasNoBytesThatAreNone) {
   EXPECT_THAT(converted.bytes, HasSubstr("a\uFFFD\n"));
   EXPECT_THAT(converted.losses, ElementsAre("R2018 格式不能保存：无法识别的字节（1 处）"));
   EXPECT_THAT(savedAs(Open(file), dxf::kR2000).bytes, HasSubstr("a\xD6\n"));
+  // Outside of records too.
+  EXPECT_THAT(savedAs(Open("999\nb\xD6\n" + file), dxf::kR2018).bytes, testing::StartsWith("999\nb\uFFFD\n"));
 }
 
 TEST(Version, ADrawingOfR12GetsHandlesOwnersMarkersAndLayouts) {
