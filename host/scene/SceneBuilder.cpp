@@ -28,6 +28,10 @@ SceneBuilder::SceneBuilder(AcDbDatabase& database, const SceneOptions& options)
   m_scene.pointSize = m_variables.pointSize;
 }
 
+void SceneBuilder::addSpace(const AcDbBlockTableRecord& space) {
+  for (const AcDbObjectId& id : m_order.of(space)) addTopLevel(id);
+}
+
 void SceneBuilder::addTopLevel(const AcDbObjectId& id) {
   const auto* entity = AcDbEntity::cast(id.object());
   if (!entity || entity->isErased() || m_exhausted) return;
@@ -53,7 +57,7 @@ void SceneBuilder::addThrough(const Frame& frame, const AcDbBlockTableRecord& sp
                               const ge::Box2d& visible) {
   const Group outer = m_group;
   ge::Box2d seen = outer.box;
-  for (const AcDbObjectId& id : space.entities()) {
+  for (const AcDbObjectId& id : m_order.of(space)) {
     if (m_exhausted) break;
     const Mark before = mark();
     m_group.box = ge::Box2d();
@@ -175,7 +179,7 @@ void SceneBuilder::drawBlock(const Frame& outer, const Look& look, const AcDbEnt
   inner.linetypeLength = outer.linetypeLength * Pen::lengthScale(toSpace);
   inner.depth = outer.depth + 1;
   m_open.push_back(block);
-  for (const AcDbObjectId& id : record->entities()) {
+  for (const AcDbObjectId& id : m_order.of(*record)) {
     if (m_exhausted) break;
     drawEntity(inner, id);
   }
@@ -264,9 +268,10 @@ void SceneBuilder::drawEntity(const Frame& frame, const AcDbObjectId& id) {
 }
 
 Scene BuildScene(AcDbDatabase& database, const AcDbObjectId& space, const SceneOptions& options) {
+  SceneBuilder builder(database, options);
   const auto* block = AcDbBlockTableRecord::cast(space.object());
-  return BuildScene(database, block ? std::span(block->entities()) : std::span<const AcDbObjectId>(),
-                    options);
+  if (block) builder.addSpace(*block);
+  return builder.finish();
 }
 
 Scene BuildScene(AcDbDatabase& database, std::span<const AcDbObjectId> entities,

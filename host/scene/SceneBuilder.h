@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/scene/BuildScene.h"
+#include "host/scene/DrawOrder.h"
 #include "host/scene/DrawingVariables.h"
 #include "host/scene/EntityTags.h"
 #include "host/scene/LayerLooks.h"
@@ -21,6 +22,7 @@ class SceneBuilder {
  public:
   SceneBuilder(AcDbDatabase& database, const SceneOptions& options);
 
+  void addSpace(const AcDbBlockTableRecord& space);
   void addTopLevel(const AcDbObjectId& id);
   // Entities of another space within the entity that is being drawn, as a viewport shows them.
   void addThrough(const Frame& frame, const AcDbBlockTableRecord& space, const ge::Box2d& visible);
@@ -71,6 +73,7 @@ class SceneBuilder {
   LinetypePatterns m_linetypes;
   StyleLooks m_styles;
   LeftOut m_leftOut;
+  DrawOrder m_order;
   const TextMetrics* m_metrics;
   Scene m_scene;
   Group m_group;

@@ -125,6 +125,23 @@ TEST(Look, TransparencyComesFromTheEntityOrItsLayer) {
   EXPECT_EQ(255, picture(line("8 red|440 16777216")).only(Kind::stroke).color.alpha);
 }
 
+TEST(Look, ATableOfTheDrawingChangesTheOrder) {
+  const std::string block = "0 BLOCK|8 0|2 b|70 0|10 0|20 0|3 b|" + line("5 B1|8 0|62 1") + "|" +
+                            line("5 B2|8 0|62 2") + "|" + line("5 B3|8 0|62 3") + "|0 ENDBLK|8 0";
+  // The first goes in front of the third.
+  const Picture p(Parts{.entities = "0 INSERT|8 0|2 b|10 0|20 0",
+                        .blocks = block,
+                        .objects =
+                            "0 DICTIONARY|5 C|3 X|350 D0|0 DICTIONARY|5 D0|330 C|3 ACAD_SORTENTS|360 D1|"
+                            "0 SORTENTSTABLE|5 D1|330 D0|100 AcDbSortentsTable|331 B1|5 B4|331 B2|5 B2",
+                        .blockRecords = "0 BLOCK_RECORD|5 F0|102 {ACAD_XDICTIONARY|360 D0|102 }|2 b"});
+  const auto strokes = p.all(Kind::stroke);
+  ASSERT_EQ(3u, strokes.size());
+  EXPECT_EQ(Color::fromIndex(2), strokes[0].color);
+  EXPECT_EQ(Color::fromIndex(3), strokes[1].color);
+  EXPECT_EQ(Color::fromIndex(1), strokes[2].color);
+}
+
 TEST(Look, EntitiesComeInTheOrderOfTheFileWithTheirIds) {
   const Picture p = picture(line("5 A1|8 red") + "|" + line("5 A0|8 green"));
   ASSERT_EQ(2u, p.scene.groups.size());

@@ -21,8 +21,9 @@ std::string DrawingText(const Parts& parts) {
   const auto section = [](const std::string& name, const std::string& records) {
     return "0 SECTION|2 " + name + (records.empty() ? "" : "|" + records) + "|0 ENDSEC|";
   };
-  const std::string tables =
-      table("LTYPE", parts.linetypes) + table("LAYER", parts.layers) + table("STYLE", parts.styles);
+  const std::string tables = table("LTYPE", parts.linetypes) + table("LAYER", parts.layers) +
+                             table("STYLE", parts.styles) +
+                             (parts.blockRecords.empty() ? "" : table("BLOCK_RECORD", parts.blockRecords));
   return TagLines(
       section("HEADER", "9 $ACADVER|1 AC1015" + (parts.header.empty() ? "" : "|" + parts.header)) +
       section("TABLES", tables.substr(1)) + section("BLOCKS", parts.blocks) +

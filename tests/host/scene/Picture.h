@@ -17,6 +17,7 @@ struct Parts {
   std::string styles = {};
   std::string header = {};
   std::string objects = {};
+  std::string blockRecords = {};
 };
 
 class Picture {
