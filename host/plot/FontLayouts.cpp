@@ -23,6 +23,7 @@ std::string printable(std::wstring_view text) {
 } // namespace
 
 struct FontLayouts::State {
+  PangoFontMap* map = nullptr;
   PangoContext* context = nullptr;
   PangoLayout* layout = nullptr;
   std::unordered_map<scene::Font, PangoFontDescription*> descriptions;
@@ -67,9 +68,11 @@ struct FontLayouts::State {
 };
 
 FontLayouts::FontLayouts(cairo_t* target) : m_state(std::make_unique<State>()) {
-  PangoFontMap* map = pango_cairo_font_map_get_default();
-  pango_cairo_font_map_set_resolution(PANGO_CAIRO_FONT_MAP(map), 72);
-  m_state->context = target ? pango_cairo_create_context(target) : pango_font_map_create_context(map);
+  // A map of its own: the library's is shared with whatever else the process draws, and never given back.
+  m_state->map = pango_cairo_font_map_new();
+  pango_cairo_font_map_set_resolution(PANGO_CAIRO_FONT_MAP(m_state->map), 72);
+  m_state->context = pango_font_map_create_context(m_state->map);
+  if (target) pango_cairo_update_context(target, m_state->context);
   cairo_font_options_t* options = cairo_font_options_create();
   cairo_font_options_set_hint_style(options, CAIRO_HINT_STYLE_NONE);
   cairo_font_options_set_hint_metrics(options, CAIRO_HINT_METRICS_OFF);
@@ -86,6 +89,7 @@ FontLayouts::~FontLayouts() {
   for (const auto& [font, description] : m_state->descriptions) pango_font_description_free(description);
   g_object_unref(m_state->layout);
   g_object_unref(m_state->context);
+  g_object_unref(m_state->map);
 }
 
 double FontLayouts::capHeight(const scene::Font& font) {

@@ -17,7 +17,7 @@ namespace {
 scene::Scene sceneOf(const std::string& file) {
   AcDbDatabase database(false);
   EXPECT_TRUE(dxf::ReadDrawing(CString::FromUtf8(std::string(ZP_SOURCE_DIR) + "/" + file), database).ok);
-  static const plot::FontMetrics metrics;
+  const plot::FontMetrics metrics;
   scene::SceneOptions options;
   options.metrics = &metrics;
   return scene::BuildScene(database, database.modelSpaceId(), options);

@@ -3,8 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <filesystem>
+#include <fstream>
+#include <random>
 
 using Kind = scene::Primitive::Kind;
 
@@ -83,6 +84,36 @@ TEST(Degenerate, TheSameDrawingGivesTheSameScene) {
     EXPECT_EQ(a.scene.points[i].x, b.scene.points[i].x);
     EXPECT_EQ(a.scene.points[i].y, b.scene.points[i].y);
   }
+}
+
+// Values of real drawings with characters changed at random: whatever is read of them has a scene.
+TEST(Degenerate, DamagedDrawingsHaveAScene) {
+  constexpr std::string_view kCharacters = "0123456789-.e{}\\;%/^ ";
+  std::mt19937 random(1);
+  scene::SceneOptions options;
+  options.limits = {.entities = 20'000, .points = 1'000'000, .copies = 1000, .depth = 16, .hatchLines = 1000};
+  int scenes = 0;
+  for (const char* name :
+       {"uncommon", "hatches", "text", "columns_R2018", "insert_nested", "xclip", "poly_R12"}) {
+    std::ifstream file(std::string(ZP_SOURCE_DIR) + "/tests/data/drawings/" + name + ".dxf",
+                       std::ios::binary);
+    const std::string whole{std::istreambuf_iterator<char>(file), {}};
+    ASSERT_FALSE(whole.empty()) << name;
+    for (int round = 0; round < 12; ++round) {
+      std::string bytes = whole;
+      for (int change = 0; change < 400; ++change) {
+        char& c = bytes[random() % bytes.size()];
+        if (c >= '0' && c <= '9') c = kCharacters[random() % kCharacters.size()];
+      }
+      AcDbDatabase database(false);
+      dxf::ReadOptions reading;
+      reading.recover = true;
+      if (!dxf::ReadDrawingBytes(std::move(bytes), L"damaged.dxf", database, reading).ok) continue;
+      for (const auto& space : {database.modelSpaceId(), database.paperSpaceId()})
+        scenes += scene::BuildScene(database, space, options).groups.empty() ? 0 : 1;
+    }
+  }
+  EXPECT_GT(scenes, 40);
 }
 
 // Real drawings, faulty ones among them.
