@@ -27,7 +27,7 @@ SOURCE = Path(__file__).resolve().parents[2]
 DRAWINGS = SOURCE / "tests/data/drawings"
 SIDE = 640  # pixels of one picture's longer side
 GAP = 24
-COLORS = 48  # of the palette of a committed picture
+COLORS = 96  # of the palette of a committed picture
 
 # Name: drawing, then the layout that is shown, if it isn't model space.
 PAIRS = {
@@ -92,7 +92,7 @@ def make_pair(program, name, folder):
     pair.paste(left, (GAP, GAP))
     pair.paste(right, (SIDE + 2 * GAP, GAP))
     pair.paste((170, 170, 170), (SIDE + GAP + GAP // 2, 0, SIDE + GAP + GAP // 2 + 1, pair.height))
-    pair.quantize(COLORS).save(folder / f"{name}.png", optimize=True)
+    pair.quantize(COLORS, Image.MAXCOVERAGE).save(folder / f"{name}.png", optimize=True)
 
 
 def main(arguments):

@@ -38,7 +38,7 @@ def texts(space, doc):
         space.add_circle((50 + 130 * i, 240), 2, {"color": 1})
     space.add_mtext("{\\C1;red} and {\\H1.5x;high}, \\Lunder\\l \\Oover\\o, {\\W1.6;wide} {\\Q20;slanted}"
                     "\\P\\pqc;in the middle \\S1/2;\\P\\pqr;to the right {\\S+0.1^-0.2;}",
-                    {"char_height": 10, "width": 170, "insert": (370, 290), "attachment_point": 1})
+                    {"char_height": 10, "width": 170, "insert": (370, 330), "attachment_point": 1})
 
 
 def make(path):
