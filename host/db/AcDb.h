@@ -38,6 +38,23 @@ enum LineWeight {
 
 enum Visibility { kInvisible = 1, kVisible = 0 };
 
+// Which operand of an intersection counts with its extension.
+enum Intersect { kOnBothOperands = 0, kExtendThis = 1, kExtendArg = 2, kExtendBoth = 3 };
+
+// How an external reference stands. kXrfNotAnXref is 0, so that it reads as "no".
+enum XrefStatus {
+  kXrfNotAnXref = 0,
+  kXrfResolved = 1,
+  kXrfUnloaded = 2,
+  kXrfUnreferenced = 3,
+  kXrfFileNotFound = 4,
+  kXrfUnresolved = 5
+};
+
+// What becomes of a table record that both drawings have when objects are copied from one to the other: the
+// drawing's own stays, or it becomes like the one that comes.
+enum DuplicateRecordCloning { kDrcIgnore = 1, kDrcReplace = 2 };
+
 // Whether code is one of the weights that a drawing file may hold.
 bool isValidLineWeight(int code);
 

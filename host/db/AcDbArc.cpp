@@ -4,9 +4,9 @@
 #include "host/db/DxfDecodeContext.h"
 #include "host/db/DxfRecordEditor.h"
 #include "host/db/EntityMath.h"
+#include "host/ge/Curve.h"
 
 #include <cmath>
-#include <utility>
 
 ACRX_DXF_DEFINE_MEMBERS(AcDbArc, AcDbCurve, "ARC")
 
@@ -38,37 +38,40 @@ Acad::ErrorStatus AcDbArc::setEndAngle(double angle) {
   return assign(m_endAngle, angle, std::isfinite(angle));
 }
 
-Acad::ErrorStatus AcDbArc::getStartPoint(AcGePoint3d& point) const {
-  point = entity::onCircle(m_center, m_normal, m_radius, m_startAngle);
+Acad::ErrorStatus AcDbArc::setNormal(const AcGeVector3d& normal) {
+  if (!isFinite(normal) || normal.isZeroLength()) return Acad::eInvalidInput;
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  const AcGePoint3d centre = center();
+  m_normal = normal.normal();
+  m_center = entity::toObject(centre, m_normal);
   return Acad::eOk;
 }
 
-Acad::ErrorStatus AcDbArc::getEndPoint(AcGePoint3d& point) const {
-  point = entity::onCircle(m_center, m_normal, m_radius, m_endAngle);
+bool AcDbArc::isClosed() const {
+  ge::Curve curve;
+  getCurve(curve);
+  return curve.Status() == ge::CurveStatus::kOk && curve.IsClosed();
+}
+
+Acad::ErrorStatus AcDbArc::getCurve(ge::Curve& curve) const {
+  curve = ge::Curve::Arc(center(), m_normal, m_radius, m_startAngle, m_endAngle);
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbArc::setCurve(const ge::Curve& curve) {
+  if (curve.Kind() != ge::CurveKind::kArc) return Acad::eNotThatKindOfClass;
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  m_normal = curve.Normal();
+  m_center = entity::toObject(curve.Center(), m_normal);
+  m_radius = curve.Radius();
+  m_startAngle = curve.StartAngle();
+  m_endAngle = curve.EndAngle();
   return Acad::eOk;
 }
 
 void AcDbArc::worldDraw(AcGiWorldDraw& draw) const {
   draw.circularArc(center(), m_radius, m_normal, entity::xAxis(m_normal), m_startAngle,
                    entity::sweep(m_startAngle, m_endAngle));
-}
-
-Acad::ErrorStatus AcDbArc::transformBy(const AcGeMatrix3d& matrix) {
-  if (!matrix.isUniScaledOrtho()) return Acad::eCannotScaleNonUniformly;
-  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  AcGePoint3d start;
-  AcGePoint3d end;
-  getStartPoint(start);
-  getEndPoint(end);
-  const AcGePoint3d centre = matrix * center();
-  m_normal = entity::transformedNormal(m_normal, matrix);
-  m_center = entity::toObject(centre, m_normal);
-  m_radius *= matrix.scale();
-  // A reflection turns the sense about the normal, so start and end change places.
-  if (matrix.det() < 0) std::swap(start, end);
-  m_startAngle = entity::angleOf(entity::toObject(matrix * start, m_normal) - m_center);
-  m_endAngle = entity::angleOf(entity::toObject(matrix * end, m_normal) - m_center);
-  return Acad::eOk;
 }
 
 void AcDbArc::dxfInFields(DxfTags tags, const DxfDecodeContext& context) {

@@ -21,10 +21,11 @@ class AcDbArc : public AcDbCurve {
   Acad::ErrorStatus setRadius(double radius);
   Acad::ErrorStatus setStartAngle(double angle);
   Acad::ErrorStatus setEndAngle(double angle);
-  Acad::ErrorStatus getStartPoint(AcGePoint3d& point) const override;
-  Acad::ErrorStatus getEndPoint(AcGePoint3d& point) const override;
+  Acad::ErrorStatus setNormal(const AcGeVector3d& normal); // the world centre stays; eInvalidInput for zero
+  bool isClosed() const override;                          // a full turn
+  Acad::ErrorStatus getCurve(ge::Curve& curve) const override;
+  Acad::ErrorStatus setCurve(const ge::Curve& curve) override;
   void worldDraw(AcGiWorldDraw& draw) const override;
-  Acad::ErrorStatus transformBy(const AcGeMatrix3d& matrix) override;
 
  protected:
   void dxfInFields(DxfTags tags, const DxfDecodeContext& context) override;

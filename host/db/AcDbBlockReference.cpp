@@ -83,6 +83,7 @@ void AcDbBlockReference::worldDraw(AcGiWorldDraw& draw) const {
 
 Acad::ErrorStatus AcDbBlockReference::transformBy(const AcGeMatrix3d& matrix) {
   if (!matrix.isUniScaledOrtho()) return Acad::eCannotScaleNonUniformly;
+  if (!entity::isFinite(matrix)) return Acad::eInvalidInput;
   if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
   const AcGePoint3d moved = matrix * position();
   const AcGeMatrix3d turn =
@@ -159,7 +160,11 @@ void AcDbBlockReference::dxfInFields(DxfTags tags, const DxfDecodeContext& conte
 void AcDbBlockReference::dxfOutFields(DxfRecordEditor& editor) const {
   AcDbEntity::dxfOutFields(editor);
   editor.subclass("AcDbBlockReference");
-  if (rawRecord().isEmpty() && !subEntities().empty()) editor.integer(66, 1);
+  const auto& attributes = subEntities();
+  if (std::any_of(attributes.begin(), attributes.end(), [](const auto& id) { return !id.isErased(); }))
+    editor.integer(66, 1);
+  else
+    editor.remove(66);
   if (const auto* block = AcDbSymbolTableRecord::cast(m_block.object())) editor.name(2, block->name());
   editor.point(10, m_position);
   editor.real(41, m_scale.x, 1.0);

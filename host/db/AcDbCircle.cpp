@@ -4,6 +4,7 @@
 #include "host/db/DxfDecodeContext.h"
 #include "host/db/DxfRecordEditor.h"
 #include "host/db/EntityMath.h"
+#include "host/ge/Curve.h"
 
 #include <cmath>
 #include <numbers>
@@ -32,13 +33,26 @@ void AcDbCircle::worldDraw(AcGiWorldDraw& draw) const {
   draw.circularArc(center(), m_radius, m_normal, entity::xAxis(m_normal), 0, 2 * std::numbers::pi);
 }
 
-Acad::ErrorStatus AcDbCircle::transformBy(const AcGeMatrix3d& matrix) {
-  if (!matrix.isUniScaledOrtho()) return Acad::eCannotScaleNonUniformly;
+Acad::ErrorStatus AcDbCircle::setNormal(const AcGeVector3d& normal) {
+  if (!isFinite(normal) || normal.isZeroLength()) return Acad::eInvalidInput;
   if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  const AcGePoint3d centre = matrix * center();
-  m_normal = entity::transformedNormal(m_normal, matrix);
+  const AcGePoint3d centre = center();
+  m_normal = normal.normal();
   m_center = entity::toObject(centre, m_normal);
-  m_radius *= matrix.scale();
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbCircle::getCurve(ge::Curve& curve) const {
+  curve = ge::Curve::Circle(center(), m_normal, m_radius);
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbCircle::setCurve(const ge::Curve& curve) {
+  if (curve.Kind() != ge::CurveKind::kCircle) return Acad::eNotThatKindOfClass;
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  m_normal = curve.Normal();
+  m_center = entity::toObject(curve.Center(), m_normal);
+  m_radius = curve.Radius();
   return Acad::eOk;
 }
 

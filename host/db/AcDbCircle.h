@@ -13,10 +13,12 @@ class AcDbCircle : public AcDbCurve {
   AcGeVector3d normal() const { return m_normal; }
   double radius() const { return m_radius; }
   Acad::ErrorStatus setCenter(const AcGePoint3d& centre);
-  Acad::ErrorStatus setRadius(double radius); // above 0, eInvalidInput otherwise
+  Acad::ErrorStatus setRadius(double radius);              // above 0, eInvalidInput otherwise
+  Acad::ErrorStatus setNormal(const AcGeVector3d& normal); // the world centre stays; eInvalidInput for zero
   bool isClosed() const override { return true; }
+  Acad::ErrorStatus getCurve(ge::Curve& curve) const override;
+  Acad::ErrorStatus setCurve(const ge::Curve& curve) override;
   void worldDraw(AcGiWorldDraw& draw) const override;
-  Acad::ErrorStatus transformBy(const AcGeMatrix3d& matrix) override;
 
  protected:
   void dxfInFields(DxfTags tags, const DxfDecodeContext& context) override;

@@ -238,6 +238,7 @@ Acad::ErrorStatus AcDbDatabase::addAcDbObject(AcDbObject* object, const AcDbObje
   object->setStub(&m_stubs.back());
   giveHandle(*object, handle);
   object->setOwnerId(owner);
+  object->invalidateRecord(); // handle and owner belong in it
   m_undo->recordAppended(*object);
   object->openAsNew();
   afterAppend(*object);

@@ -31,59 +31,112 @@ CString AcDbEntity::layer() const {
   return recordName(m_layer, L"0");
 }
 
-Acad::ErrorStatus AcDbEntity::setLayer(const wchar_t* name) {
+// Applies a setter to the entity and, where wanted, to what belongs to it. The entity's own status counts.
+template <typename Setter> Acad::ErrorStatus AcDbEntity::withSubEntities(bool doSubents, Setter set) {
+  const auto status = set(*this);
+  if (status != Acad::eOk || !doSubents) return status;
+  for (const AcDbObjectId& id : subEntities()) {
+    AcDbObjectPointer<AcDbEntity> sub(id, AcDb::kForWrite);
+    if (sub) set(*sub.object());
+  }
+  return status;
+}
+
+Acad::ErrorStatus AcDbEntity::setLayer(const wchar_t* name, bool doSubents) {
   const AcDbDatabase* db = databaseFor(*this);
   if (!db) return Acad::eNoDatabase;
   AcDbObjectId id;
   if (const auto status = db->tableOf("LAYER")->getAt(name, id); status != Acad::eOk) return status;
-  return setLayer(id);
+  return setLayer(id, doSubents);
 }
 
-Acad::ErrorStatus AcDbEntity::setLayer(const AcDbObjectId& id) {
+Acad::ErrorStatus AcDbEntity::setLayer(const AcDbObjectId& id, bool doSubents) {
   if (id.isNull()) return Acad::eNullObjectId;
   if (!AcDbLayerTableRecord::cast(id.object())) return Acad::eNotThatKindOfClass;
   if (database() && id.database() != database()) return Acad::eWrongDatabase;
-  return assign(m_layer, id);
+  return withSubEntities(doSubents, [&](AcDbEntity& e) { return e.assign(e.m_layer, id); });
 }
 
-Acad::ErrorStatus AcDbEntity::setColorIndex(int index) {
+Acad::ErrorStatus AcDbEntity::setColorIndex(int index, bool doSubents) {
   AcCmColor color;
   if (const auto status = color.setColorIndex(index); status != Acad::eOk) return status;
-  return assign(m_colorIndex, static_cast<short>(index));
+  return withSubEntities(doSubents,
+                         [&](AcDbEntity& e) { return e.assign(e.m_colorIndex, static_cast<short>(index)); });
 }
 
 CString AcDbEntity::linetype() const {
   return recordName(m_linetype, L"ByLayer");
 }
 
-Acad::ErrorStatus AcDbEntity::setLinetype(const wchar_t* name) {
+Acad::ErrorStatus AcDbEntity::setLinetype(const wchar_t* name, bool doSubents) {
   const AcDbDatabase* db = databaseFor(*this);
   if (!db) return Acad::eNoDatabase;
   AcDbObjectId id;
   if (const auto status = db->tableOf("LTYPE")->getAt(name, id); status != Acad::eOk) return status;
-  return setLinetype(id);
+  return setLinetype(id, doSubents);
 }
 
-Acad::ErrorStatus AcDbEntity::setLinetype(const AcDbObjectId& id) {
+Acad::ErrorStatus AcDbEntity::setLinetype(const AcDbObjectId& id, bool doSubents) {
   if (id.isNull()) return Acad::eNullObjectId;
   if (!AcDbLinetypeTableRecord::cast(id.object())) return Acad::eNotThatKindOfClass;
   if (database() && id.database() != database()) return Acad::eWrongDatabase;
-  return assign(m_linetype, id);
+  return withSubEntities(doSubents, [&](AcDbEntity& e) { return e.assign(e.m_linetype, id); });
 }
 
-Acad::ErrorStatus AcDbEntity::setLinetypeScale(double scale) {
-  return assign(m_linetypeScale, scale, scale > 0 && std::isfinite(scale));
+Acad::ErrorStatus AcDbEntity::setLinetypeScale(double scale, bool doSubents) {
+  const bool valid = scale > 0 && std::isfinite(scale);
+  return withSubEntities(doSubents, [&](AcDbEntity& e) { return e.assign(e.m_linetypeScale, scale, valid); });
 }
 
-Acad::ErrorStatus AcDbEntity::setLineWeight(AcDb::LineWeight weight) {
-  return assign(m_lineWeight, static_cast<short>(weight), AcDb::isValidLineWeight(weight));
+Acad::ErrorStatus AcDbEntity::setLineWeight(AcDb::LineWeight weight, bool doSubents) {
+  const bool valid = AcDb::isValidLineWeight(weight);
+  return withSubEntities(
+      doSubents, [&](AcDbEntity& e) { return e.assign(e.m_lineWeight, static_cast<short>(weight), valid); });
+}
+
+Acad::ErrorStatus AcDbEntity::setPropertiesFrom(const AcDbEntity* other) {
+  if (!other) return Acad::eNullObjectPointer;
+  if (database() && other->m_layer && other->m_layer.database() != database()) return Acad::eWrongDatabase;
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  m_layer = other->m_layer;
+  m_linetype = other->m_linetype;
+  m_linetypeScale = other->m_linetypeScale;
+  m_colorIndex = other->m_colorIndex;
+  m_lineWeight = other->m_lineWeight;
+  m_visible = other->m_visible;
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbEntity::setDatabaseDefaults(const AcDbDatabase* db) {
+  if (!db) db = databaseFor(*this);
+  if (!db) return Acad::eNoDatabase;
+  const AcDbHeader& header = db->header();
+  auto first = setLayer(db->clayer());
+  const auto also = [&](Acad::ErrorStatus status) {
+    if (first == Acad::eOk) first = status;
+  };
+  if (const auto index = header.integer("$CECOLOR")) also(setColorIndex(static_cast<int>(*index)));
+  if (const auto name = header.text("$CELTYPE")) {
+    AcDbObjectId id;
+    if (db->tableOf("LTYPE")->getAt(*name, id) == Acad::eOk) also(setLinetype(id));
+  }
+  if (const auto scale = header.real("$CELTSCALE")) also(setLinetypeScale(*scale));
+  if (const auto weight = header.integer("$CELWEIGHT"))
+    also(setLineWeight(static_cast<AcDb::LineWeight>(*weight)));
+  return first;
 }
 
 Acad::ErrorStatus AcDbEntity::setVisibility(AcDb::Visibility visibility) {
   return assign(m_visible, visibility == AcDb::kVisible);
 }
 
-void AcDbEntity::worldDraw(AcGiWorldDraw&) const {}
+void AcDbEntity::worldDraw(AcGiWorldDraw& draw) const {
+  const_cast<AcDbEntity*>(this)->subWorldDraw(&draw);
+}
+
+Adesk::Boolean AcDbEntity::subWorldDraw(AcGiWorldDraw*) {
+  return Adesk::kTrue;
+}
 
 Acad::ErrorStatus AcDbEntity::getGeomExtents(AcDbExtents& extents) const {
   ExtentsDraw draw;
@@ -95,6 +148,36 @@ Acad::ErrorStatus AcDbEntity::getGeomExtents(AcDbExtents& extents) const {
 
 Acad::ErrorStatus AcDbEntity::transformBy(const AcGeMatrix3d&) {
   return Acad::eNotApplicable;
+}
+
+Acad::ErrorStatus AcDbEntity::getTransformedCopy(const AcGeMatrix3d& matrix, AcDbEntity*& copy) const {
+  copy = nullptr;
+  std::unique_ptr<AcDbEntity> made(AcDbEntity::cast(clone()));
+  if (!made) return Acad::eNotApplicable;
+  const auto status = made->transformBy(matrix);
+  if (status == Acad::eOk) copy = made.release();
+  return status;
+}
+
+Acad::ErrorStatus AcDbEntity::subIntersectWith(const AcDbEntity&, AcDb::Intersect,
+                                               std::vector<AcGePoint3d>&) const {
+  return Acad::eNotApplicable;
+}
+
+Acad::ErrorStatus AcDbEntity::explode(std::vector<AcDbEntity*>&) const {
+  return Acad::eCannotExplodeEntity;
+}
+
+// The ids stay as they are: a name would be looked up in the drawing, and a layer that is not set would
+// become the layer 0.
+AcDbObject* AcDbEntity::cloneInto(std::unique_ptr<AcDbObject> made) const {
+  AcDbObject* object = AcDbObject::cloneInto(std::move(made));
+  if (auto* entity = AcDbEntity::cast(object)) {
+    entity->m_layer = m_layer;
+    entity->m_linetype = m_linetype;
+    entity->m_paperSpace = false;
+  }
+  return object;
 }
 
 CString AcDbEntity::dxfName() const {

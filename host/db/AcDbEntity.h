@@ -4,6 +4,7 @@
 #include "host/db/AcCmColor.h"
 #include "host/db/AcDbExtents.h"
 #include "host/db/AcDbObject.h"
+#include "host/db/Adesk.h"
 #include "host/ge/AcGeMatrix3d.h"
 
 #include <memory>
@@ -20,32 +21,58 @@ class AcDbEntity : public AcDbObject {
   CString layer() const; // "0" for an entity outside a drawing
   AcDbObjectId layerId() const { return m_layer; }
   // eKeyNotFound for a name that the drawing lacks, eNoDatabase outside a drawing (setLayer by id works).
-  Acad::ErrorStatus setLayer(const wchar_t* name);
-  Acad::ErrorStatus setLayer(const AcDbObjectId& id);
+  // The setters of properties take the sub-entities (attributes, vertices) along unless told not to.
+  Acad::ErrorStatus setLayer(const wchar_t* name, bool doSubents = true);
+  Acad::ErrorStatus setLayer(const AcDbObjectId& id, bool doSubents = true);
 
   int colorIndex() const { return m_colorIndex; }
   AcCmColor color() const { return AcCmColor(m_colorIndex); }
-  Acad::ErrorStatus setColorIndex(int index); // 0 to 256, see AcCmColor
+  Acad::ErrorStatus setColorIndex(int index, bool doSubents = true); // 0 to 256, see AcCmColor
 
   CString linetype() const; // "ByLayer" where none is set
   AcDbObjectId linetypeId() const { return m_linetype; }
-  Acad::ErrorStatus setLinetype(const wchar_t* name); // eKeyNotFound
-  Acad::ErrorStatus setLinetype(const AcDbObjectId& id);
+  Acad::ErrorStatus setLinetype(const wchar_t* name, bool doSubents = true); // eKeyNotFound
+  Acad::ErrorStatus setLinetype(const AcDbObjectId& id, bool doSubents = true);
   double linetypeScale() const { return m_linetypeScale; }
-  Acad::ErrorStatus setLinetypeScale(double scale); // above 0, eInvalidInput otherwise
+  // Above 0, eInvalidInput otherwise.
+  Acad::ErrorStatus setLinetypeScale(double scale, bool doSubents = true);
 
   AcDb::LineWeight lineWeight() const { return static_cast<AcDb::LineWeight>(m_lineWeight); }
-  Acad::ErrorStatus setLineWeight(AcDb::LineWeight weight); // eInvalidInput for one that no file may hold
+  // eInvalidInput for a weight that no file may hold.
+  Acad::ErrorStatus setLineWeight(AcDb::LineWeight weight, bool doSubents = true);
   AcDb::Visibility visibility() const { return m_visible ? AcDb::kVisible : AcDb::kInvisible; }
   Acad::ErrorStatus setVisibility(AcDb::Visibility visibility);
 
+  // Layer, colour, linetype, its scale, weight and visibility of another entity. eNullObjectPointer;
+  // eWrongDatabase for one of another drawing.
+  Acad::ErrorStatus setPropertiesFrom(const AcDbEntity* other);
+  // What a new entity gets from the drawing's settings: current layer, colour, linetype, its scale and
+  // weight. Null stands for the working drawing. The first failure; what it concerns stays as it was.
+  Acad::ErrorStatus setDatabaseDefaults(const AcDbDatabase* database = nullptr);
+
   // Draws itself as lines, arcs, circles and texts. Entities that the host doesn't understand draw nothing.
+  // The default hands on to subWorldDraw, which custom classes override.
   virtual void worldDraw(AcGiWorldDraw& draw) const;
+  // True: nothing is left to draw that would depend on a viewport.
+  virtual Adesk::Boolean subWorldDraw(AcGiWorldDraw* worldDraw);
   // The box around what it draws. eInvalidExtents when it draws nothing.
   virtual Acad::ErrorStatus getGeomExtents(AcDbExtents& extents) const;
   // eNotApplicable for entities whose geometry the host doesn't understand, eCannotScaleNonUniformly where
   // the class can't follow the matrix; the entity stays as it was then.
+  // Other failures: eInvalidInput for a matrix that is not finite, eNotOpenForWrite.
   virtual Acad::ErrorStatus transformBy(const AcGeMatrix3d& matrix);
+  // A clone (see AcDbObject::clone) that is transformed; null and the status of transformBy on failure. The
+  // caller owns it.
+  Acad::ErrorStatus getTransformedCopy(const AcGeMatrix3d& matrix, AcDbEntity*& copy) const;
+  // The points in common with another entity, appended. Curves and points take part; eNotApplicable for
+  // others unless their class overrides subIntersectWith. No point in common is eOk.
+  Acad::ErrorStatus intersectWith(const AcDbEntity* other, AcDb::Intersect type,
+                                  std::vector<AcGePoint3d>& points) const;
+  virtual Acad::ErrorStatus subIntersectWith(const AcDbEntity& other, AcDb::Intersect type,
+                                             std::vector<AcGePoint3d>& points) const;
+  // The parts as new entities that the caller owns, appended; the entity itself stays. eCannotExplodeEntity
+  // for what has no parts; nothing is appended then.
+  virtual Acad::ErrorStatus explode(std::vector<AcDbEntity*>& parts) const;
 
   // The record type in drawing files ("LINE"), also of entities that the host keeps as they came.
   virtual CString dxfName() const;
@@ -65,8 +92,11 @@ class AcDbEntity : public AcDbObject {
  protected:
   void dxfInFields(DxfTags tags, const DxfDecodeContext& context) override;
   void dxfOutFields(DxfRecordEditor& editor) const override;
+  AcDbObject* cloneInto(std::unique_ptr<AcDbObject> made) const override;
 
  private:
+  template <typename Setter> Acad::ErrorStatus withSubEntities(bool doSubents, Setter set);
+
   AcDbObjectId m_layer;
   AcDbObjectId m_linetype;
   double m_linetypeScale = 1.0;

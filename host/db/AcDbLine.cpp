@@ -4,6 +4,7 @@
 #include "host/db/DxfDecodeContext.h"
 #include "host/db/DxfRecordEditor.h"
 #include "host/db/EntityMath.h"
+#include "host/ge/Curve.h"
 
 ACRX_DXF_DEFINE_MEMBERS(AcDbLine, AcDbCurve, "LINE")
 
@@ -28,15 +29,31 @@ Acad::ErrorStatus AcDbLine::getEndPoint(AcGePoint3d& point) const {
   return Acad::eOk;
 }
 
+Acad::ErrorStatus AcDbLine::getCurve(ge::Curve& curve) const {
+  curve = ge::Curve::Line(m_start, m_end);
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbLine::setCurve(const ge::Curve& curve) {
+  if (curve.Kind() != ge::CurveKind::kLine) return Acad::eNotThatKindOfClass;
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  m_start = curve.PieceStart(0);
+  m_end = curve.PieceEnd(0);
+  return Acad::eOk;
+}
+
 void AcDbLine::worldDraw(AcGiWorldDraw& draw) const {
   const AcGePoint3d points[] = {m_start, m_end};
   draw.polyline(points);
 }
 
 Acad::ErrorStatus AcDbLine::transformBy(const AcGeMatrix3d& matrix) {
+  const AcGePoint3d start = matrix * m_start;
+  const AcGePoint3d end = matrix * m_end;
+  if (!isFinite(start) || !isFinite(end)) return Acad::eInvalidInput;
   if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  m_start.transformBy(matrix);
-  m_end.transformBy(matrix);
+  m_start = start;
+  m_end = end;
   m_normal = entity::transformedNormal(m_normal, matrix);
   return Acad::eOk;
 }

@@ -15,6 +15,8 @@ class AcDbLine : public AcDbCurve {
   Acad::ErrorStatus setEndPoint(const AcGePoint3d& point);
   Acad::ErrorStatus getStartPoint(AcGePoint3d& point) const override;
   Acad::ErrorStatus getEndPoint(AcGePoint3d& point) const override;
+  Acad::ErrorStatus getCurve(ge::Curve& curve) const override;
+  Acad::ErrorStatus setCurve(const ge::Curve& curve) override;
   void worldDraw(AcGiWorldDraw& draw) const override;
   Acad::ErrorStatus transformBy(const AcGeMatrix3d& matrix) override;
 

@@ -9,6 +9,7 @@
 #include "host/db/AcadStatus.h"
 #include "host/db/DxfRecord.h"
 
+#include <memory>
 #include <string>
 #include <type_traits>
 
@@ -55,6 +56,12 @@ class AcDbObject : public AcRxObject {
 
   AcDbObjectId extensionDictionary() const;
 
+  // A copy outside of any drawing that the caller owns: fields, what the host keeps of them without
+  // understanding it, and extended data, but no handle, owner, reactors, extension dictionary or
+  // sub-entities. Null for a class that can't be made. To copy with all that belongs to it:
+  // AcDbDatabase::deepCloneObjects.
+  AcRxObject* clone() const;
+
   // Persistent form:
 
   // The record with
@@ -82,6 +89,8 @@ class AcDbObject : public AcRxObject {
   // and left at its default.
   virtual void dxfInFields(DxfTags tags, const DxfDecodeContext& context);
   virtual void dxfOutFields(DxfRecordEditor& editor) const;
+  // Fills what clone() has made.
+  virtual AcDbObject* cloneInto(std::unique_ptr<AcDbObject> made) const;
   // Called by setters: the object must be open for write, and its record is merged anew when next asked for.
   Acad::ErrorStatus assertWriteEnabled();
   // What most setters do: eInvalidInput for a value that is not valid, eNotOpenForWrite, else the field gets

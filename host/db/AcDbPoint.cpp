@@ -19,6 +19,7 @@ void AcDbPoint::worldDraw(AcGiWorldDraw& draw) const {
 }
 
 Acad::ErrorStatus AcDbPoint::transformBy(const AcGeMatrix3d& matrix) {
+  if (!entity::isFinite(matrix) || !isFinite(matrix * m_position)) return Acad::eInvalidInput;
   if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
   m_position.transformBy(matrix);
   m_normal = entity::transformedNormal(m_normal, matrix);

@@ -1,13 +1,18 @@
 #include "host/db/AcDbPolyline.h"
 
+#include "host/db/AcDbArc.h"
+#include "host/db/AcDbLine.h"
 #include "host/db/AcGiWorldDraw.h"
 #include "host/db/DxfDecodeContext.h"
 #include "host/db/DxfRecordEditor.h"
 #include "host/db/EntityMath.h"
 #include "host/ge/ArcMath.h"
+#include "host/ge/Curve.h"
 
+#include <algorithm>
 #include <climits>
 #include <cmath>
+#include <memory>
 
 ACRX_DXF_DEFINE_MEMBERS(AcDbPolyline, AcDbCurve, "LWPOLYLINE")
 
@@ -111,12 +116,138 @@ Acad::ErrorStatus AcDbPolyline::setElevation(double elevation) {
   return assign(m_elevation, elevation, std::isfinite(elevation));
 }
 
+Acad::ErrorStatus AcDbPolyline::setNormal(const AcGeVector3d& normal) {
+  if (!entity::isFinite(normal) || normal.isZeroLength()) return Acad::eInvalidInput;
+  return assign(m_normal, normal.normal());
+}
+
+Acad::ErrorStatus AcDbPolyline::setWidthsAt(unsigned int index, double start, double end) {
+  if (index >= m_vertices.size()) return Acad::eOutOfRange;
+  if (!std::isfinite(start) || !std::isfinite(end)) return Acad::eInvalidInput;
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  // One width for all gives way to widths of their own.
+  if (m_constantWidth != 0)
+    for (Vertex& vertex : m_vertices) vertex.startWidth = vertex.endWidth = m_constantWidth;
+  m_constantWidth = 0;
+  m_vertices[index].startWidth = start;
+  m_vertices[index].endWidth = end;
+  m_verticesChanged = true;
+  return Acad::eOk;
+}
+
+std::size_t AcDbPolyline::segmentCount() const {
+  return m_vertices.size() < 2 ? 0 : m_vertices.size() - (isClosed() ? 0 : 1);
+}
+
+AcDbPolyline::SegType AcDbPolyline::segType(unsigned int index) const {
+  if (index >= m_vertices.size()) return kEmpty;
+  if (index >= segmentCount()) return kPoint;
+  const Vertex& from = m_vertices[index];
+  const Vertex& to = m_vertices[(index + 1) % m_vertices.size()];
+  if (from.point.x == to.point.x && from.point.y == to.point.y) return kCoincident;
+  return ge::ArcFromBulge(from.point, to.point, from.bulge) ? kArc : kLine;
+}
+
+bool AcDbPolyline::hasBulges() const {
+  return std::any_of(m_vertices.begin(), m_vertices.end(), [](const Vertex& v) { return v.bulge != 0; });
+}
+
+bool AcDbPolyline::hasWidth() const {
+  return m_constantWidth != 0 || std::any_of(m_vertices.begin(), m_vertices.end(), [](const Vertex& v) {
+           return v.startWidth != 0 || v.endWidth != 0;
+         });
+}
+
+// As the kernel computes it, so that ends compare equal with its results.
+AcGePoint3d AcDbPolyline::worldVertex(std::size_t index) const {
+  const ge::PolylineVertex vertex{m_vertices[index].point, 0.0};
+  const auto curve = ge::Curve::Polyline({&vertex, 1}, false, m_normal, m_elevation);
+  return curve.Status() == ge::CurveStatus::kOk ? curve.PieceStart(0)
+                                                : worldPoint(vertex.point, m_elevation, m_normal);
+}
+
 Acad::ErrorStatus AcDbPolyline::getStartPoint(AcGePoint3d& point) const {
-  return getPointAt(0, point);
+  if (m_vertices.empty()) return Acad::eDegenerateGeometry;
+  point = worldVertex(0);
+  return Acad::eOk;
 }
 
 Acad::ErrorStatus AcDbPolyline::getEndPoint(AcGePoint3d& point) const {
-  return getPointAt(isClosed() || m_vertices.empty() ? 0 : numVerts() - 1, point);
+  if (m_vertices.empty()) return Acad::eDegenerateGeometry;
+  point = worldVertex(isClosed() ? 0 : m_vertices.size() - 1);
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbPolyline::getCurve(ge::Curve& curve) const {
+  std::vector<ge::PolylineVertex> vertices;
+  vertices.reserve(m_vertices.size());
+  for (const Vertex& vertex : m_vertices) vertices.push_back({vertex.point, vertex.bulge});
+  curve = ge::Curve::Polyline(vertices, isClosed(), m_normal, m_elevation);
+  return Acad::eOk;
+}
+
+// A vertex that stays keeps its widths; one that came in takes those of the segment that it divides.
+Acad::ErrorStatus AcDbPolyline::setCurve(const ge::Curve& curve) {
+  if (curve.Kind() != ge::CurveKind::kPolyline) return Acad::eNotThatKindOfClass;
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  std::vector<Vertex> vertices;
+  std::size_t kept = 0;
+  for (const ge::PolylineVertex& from : curve.Vertices()) {
+    Vertex vertex;
+    for (std::size_t i = kept; i < m_vertices.size(); ++i) {
+      if (m_vertices[i].point.x != from.point.x || m_vertices[i].point.y != from.point.y) continue;
+      kept = i;
+      break;
+    }
+    if (kept < m_vertices.size()) vertex = m_vertices[kept];
+    vertex.point = from.point;
+    vertex.bulge = from.bulge;
+    vertices.push_back(vertex);
+  }
+  m_vertices = std::move(vertices);
+  m_flags = curve.IsClosed() ? m_flags | 1 : m_flags & ~1;
+  m_normal = curve.Normal();
+  m_elevation = curve.Elevation();
+  m_verticesChanged = true;
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbPolyline::reverseCurve() {
+  if (m_vertices.empty()) return Acad::eDegenerateGeometry;
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  // Segment data stands at the vertex where the segment begins, which is now the other one.
+  std::vector<Vertex> reversed(m_vertices.rbegin(), m_vertices.rend());
+  const std::size_t count = reversed.size();
+  for (std::size_t i = 0; i < count; ++i) {
+    const Vertex& segment = m_vertices[(2 * count - 2 - i) % count];
+    reversed[i].bulge = -segment.bulge;
+    reversed[i].startWidth = segment.endWidth;
+    reversed[i].endWidth = segment.startWidth;
+  }
+  m_vertices = std::move(reversed);
+  m_verticesChanged = true;
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbPolyline::explode(std::vector<AcDbEntity*>& parts) const {
+  ge::Curve curve;
+  getCurve(curve);
+  if (curve.Status() != ge::CurveStatus::kOk || segmentCount() == 0) return Acad::eCannotExplodeEntity;
+  for (std::size_t i = 0; i < curve.Pieces().size(); ++i) {
+    const ge::CurvePiece& piece = curve.Pieces()[i];
+    std::unique_ptr<AcDbCurve> part;
+    if (piece.isArc) {
+      part = std::make_unique<AcDbArc>();
+      // Arcs run anticlockwise: a clockwise segment is the same arc from its other end.
+      const ge::CurvePiece forward = piece.arc.sweep < 0 ? ge::Reversed(piece) : piece;
+      part->setCurve(ge::Curve::OfPieces(ge::CurveKind::kArc, curve.Frame(), {forward}, false));
+    } else {
+      part = std::make_unique<AcDbLine>(curve.PieceStart(i), curve.PieceEnd(i));
+    }
+    part->setPropertiesFrom(this);
+    parts.push_back(part.release());
+  }
+  return Acad::eOk;
 }
 
 void AcDbPolyline::worldDraw(AcGiWorldDraw& draw) const {
@@ -126,8 +257,7 @@ void AcDbPolyline::worldDraw(AcGiWorldDraw& draw) const {
     if (straight.size() > 1) draw.polyline(straight);
     straight.clear();
   };
-  const std::size_t segments = m_vertices.size() < 2 ? 0 : m_vertices.size() - (isClosed() ? 0 : 1);
-  for (std::size_t i = 0; i < segments; ++i) {
+  for (std::size_t i = 0; i < segmentCount(); ++i) {
     const Vertex& from = m_vertices[i];
     const Vertex& to = m_vertices[(i + 1) % m_vertices.size()];
     const auto arc = ge::ArcFromBulge(from.point, to.point, from.bulge);
@@ -146,6 +276,7 @@ void AcDbPolyline::worldDraw(AcGiWorldDraw& draw) const {
 
 Acad::ErrorStatus AcDbPolyline::transformBy(const AcGeMatrix3d& matrix) {
   if (!matrix.isUniScaledOrtho()) return Acad::eCannotScaleNonUniformly;
+  if (!entity::isFinite(matrix)) return Acad::eInvalidInput;
   if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
   const AcGeVector3d before = m_normal;
   m_normal = entity::transformedNormal(m_normal, matrix);

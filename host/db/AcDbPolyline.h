@@ -31,8 +31,22 @@ class AcDbPolyline : public AcDbCurve {
   double elevation() const { return m_elevation; }
   Acad::ErrorStatus setElevation(double elevation);
   AcGeVector3d normal() const { return m_normal; }
+  Acad::ErrorStatus setNormal(const AcGeVector3d& normal); // vertices keep their coordinates in its system
+  Acad::ErrorStatus setWidthsAt(unsigned int index, double start, double end);
+  // Room for that many vertices ahead; none is added.
+  void reserveVertices(unsigned int count) { m_vertices.reserve(count); }
+  // A segment's kind; the one behind the last vertex exists when closed.
+  enum SegType { kLine, kArc, kCoincident, kPoint, kEmpty };
+  SegType segType(unsigned int index) const;
+  bool hasBulges() const;
+  bool hasWidth() const;
   Acad::ErrorStatus getStartPoint(AcGePoint3d& point) const override;
   Acad::ErrorStatus getEndPoint(AcGePoint3d& point) const override;
+  Acad::ErrorStatus getCurve(ge::Curve& curve) const override;
+  Acad::ErrorStatus setCurve(const ge::Curve& curve) override;
+  Acad::ErrorStatus reverseCurve() override;
+  // Into lines and arcs; the caller owns them.
+  Acad::ErrorStatus explode(std::vector<AcDbEntity*>& parts) const override;
   void worldDraw(AcGiWorldDraw& draw) const override;
   Acad::ErrorStatus transformBy(const AcGeMatrix3d& matrix) override;
 
@@ -41,6 +55,8 @@ class AcDbPolyline : public AcDbCurve {
   void dxfOutFields(DxfRecordEditor& editor) const override;
 
  private:
+  AcGePoint3d worldVertex(std::size_t index) const;
+  std::size_t segmentCount() const;
   struct Vertex {
     AcGePoint2d point;
     double bulge = 0;

@@ -63,6 +63,7 @@ void AcDbText::worldDraw(AcGiWorldDraw& draw) const {
 
 Acad::ErrorStatus AcDbText::transformBy(const AcGeMatrix3d& matrix) {
   if (!matrix.isUniScaledOrtho()) return Acad::eCannotScaleNonUniformly;
+  if (!entity::isFinite(matrix)) return Acad::eInvalidInput;
   if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
   const AcGeVector3d x = entity::xAxis(m_normal);
   const AcGeVector3d y = m_normal.crossProduct(x);

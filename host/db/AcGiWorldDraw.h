@@ -4,6 +4,7 @@
 
 #include "host/afx/CString.h"
 #include "host/db/AcDbObjectId.h"
+#include "host/db/AcGiSubEntityTraits.h"
 #include "host/ge/AcGeMatrix3d.h"
 #include "host/ge/AcGePoint3d.h"
 #include "host/ge/AcGeVector3d.h"
@@ -34,4 +35,10 @@ class AcGiWorldDraw {
   // Everything until popModelTransform is drawn through the matrix; they nest.
   virtual void pushModelTransform(const AcGeMatrix3d& matrix) = 0;
   virtual void popModelTransform() = 0;
+
+  // With what the next parts are drawn. Who draws by entity (beginEntity) need not look.
+  virtual AcGiSubEntityTraits& subEntityTraits() { return m_traits; }
+
+ private:
+  AcGiSubEntityTraits m_traits;
 };

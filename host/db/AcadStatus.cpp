@@ -42,7 +42,12 @@ const wchar_t* acadErrorStatusText(Acad::ErrorStatus status) {
                                     L"eDegenerateGeometry",
                                     L"eCannotScaleNonUniformly",
                                     L"eInvalidExtents",
-                                    L"eUserBreak"};
-  static_assert(names.size() == Acad::eUserBreak + 1);
+                                    L"eUserBreak",
+                                    L"ePointNotOnEntity",
+                                    L"eCannotExplodeEntity",
+                                    L"eDamagedFile",
+                                    L"eCircularReference",
+                                    L"eObjectIsReferenced"};
+  static_assert(names.size() == Acad::eObjectIsReferenced + 1);
   return static_cast<std::size_t>(status) < names.size() ? names[status] : L"?";
 }

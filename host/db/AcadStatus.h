@@ -44,6 +44,11 @@ enum ErrorStatus {
   eCannotScaleNonUniformly,
   eInvalidExtents,
   eUserBreak,
+  ePointNotOnEntity,
+  eCannotExplodeEntity,
+  eDamagedFile,
+  eCircularReference,
+  eObjectIsReferenced,
 };
 
 } // namespace Acad

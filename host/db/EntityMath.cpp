@@ -25,6 +25,13 @@ bool entity::isFinite(const AcGeVector3d& v) {
   return std::isfinite(v.x) && std::isfinite(v.y) && std::isfinite(v.z);
 }
 
+bool entity::isFinite(const AcGeMatrix3d& matrix) {
+  for (const auto& row : matrix.entry)
+    for (const double number : row)
+      if (!std::isfinite(number)) return false;
+  return true;
+}
+
 AcGePoint3d entity::toWorld(const AcGePoint3d& p, const AcGeVector3d& normal) {
   return isWorldNormal(normal) ? p : AcGeMatrix3d::planeToWorld(normal) * p;
 }

@@ -14,6 +14,7 @@ namespace entity {
 
 bool isFinite(const AcGePoint3d& p);
 bool isFinite(const AcGeVector3d& v);
+bool isFinite(const AcGeMatrix3d& matrix);
 
 // Between world coordinates and those of a normal; the usual normal 0,0,1 changes nothing.
 AcGePoint3d toWorld(const AcGePoint3d& p, const AcGeVector3d& normal);

@@ -7,6 +7,7 @@
 #include "host/db/AcDbObjectPointer.h"
 #include "host/db/AcDbTables.h"
 #include "host/db/DxfDecodeContext.h"
+#include "host/db/resbuf.h"
 
 #include <gtest/gtest.h>
 
