@@ -25,10 +25,12 @@ Acad::ErrorStatus AcDbBlockBegin::setFlags(int flags) {
   return assign(m_flags, flags);
 }
 
-CString AcDbBlockBegin::xrefPath() const {
-  for (const DxfTag& tag : dxfOwnTags(record().tags()))
-    if (tag.code == 1) return dxf::decodeText(tag.value);
-  return {};
+Acad::ErrorStatus AcDbBlockBegin::setXrefPath(const CString& path) {
+  return assign(m_xrefPath, path);
+}
+
+Acad::ErrorStatus AcDbBlockBegin::setComments(const CString& comments) {
+  return assign(m_comments, comments);
 }
 
 CString AcDbBlockBegin::nameIn(DxfTags tags) {
@@ -41,6 +43,8 @@ void AcDbBlockBegin::dxfInFields(DxfTags tags, const DxfDecodeContext& context) 
   AcDbEntity::dxfInFields(tags, context);
   m_basePoint = {};
   m_flags = 0;
+  m_xrefPath.Empty();
+  m_comments.Empty();
   for (const DxfTag& tag : dxfOwnTags(tags)) {
     switch (tag.code) {
     case 10:
@@ -51,6 +55,12 @@ void AcDbBlockBegin::dxfInFields(DxfTags tags, const DxfDecodeContext& context) 
       break;
     case 30:
       m_basePoint.z = context.real(tag);
+      break;
+    case 1:
+      m_xrefPath = dxf::decodeText(tag.value);
+      break;
+    case 4:
+      m_comments = dxf::decodeText(tag.value);
       break;
     case 70:
       m_flags = static_cast<int>(context.integerIn(tag, -0x8000, 0xFFFF, 0));
@@ -68,7 +78,11 @@ void AcDbBlockBegin::dxfOutFields(DxfRecordEditor& editor) const {
   editor.integer(70, m_flags);
   editor.point(10, m_basePoint);
   editor.name(3, blockNameOf(*this));
-  if (rawRecord().isEmpty()) editor.text(1, CString());
+  if (rawRecord().isEmpty())
+    editor.text(1, m_xrefPath);
+  else
+    editor.text(1, m_xrefPath, L"");
+  editor.text(4, m_comments, L"");
 }
 
 void AcDbBlockEnd::dxfOutFields(DxfRecordEditor& editor) const {

@@ -12,7 +12,10 @@ class AcDbBlockBegin : public AcDbEntity {
   // Group 70: 1 anonymous, 2 has attribute definitions, 4 external reference, 8 overlay, 32 resolved.
   int flags() const { return m_flags; }
   Acad::ErrorStatus setFlags(int flags);
-  CString xrefPath() const;
+  const CString& xrefPath() const { return m_xrefPath; }
+  Acad::ErrorStatus setXrefPath(const CString& path);
+  const CString& comments() const { return m_comments; }
+  Acad::ErrorStatus setComments(const CString& comments);
   // The name as the file has it, which is the block record's once the drawing is complete.
   static CString nameIn(DxfTags tags);
 
@@ -22,6 +25,8 @@ class AcDbBlockBegin : public AcDbEntity {
 
  private:
   AcGePoint3d m_basePoint;
+  CString m_xrefPath;
+  CString m_comments;
   int m_flags = 0;
 };
 

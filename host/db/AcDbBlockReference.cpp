@@ -1,8 +1,10 @@
 #include "host/db/AcDbBlockReference.h"
 
+#include "host/db/AcDbAttribute.h"
 #include "host/db/AcDbBlockTable.h"
 #include "host/db/AcDbObjectPointer.h"
 #include "host/db/AcGiWorldDraw.h"
+#include "host/db/BlockCycle.h"
 #include "host/db/DxfDecodeContext.h"
 #include "host/db/DxfRecordEditor.h"
 #include "host/db/EntityMath.h"
@@ -18,7 +20,7 @@ namespace {
 // Blocks that are being drawn now: a file may hold a block that contains itself.
 thread_local std::vector<AcDbObjectId> t_drawing;
 
-constexpr int kMaxCopiesDrawn = 10000; // of one insertion in rows and columns
+constexpr std::size_t kMaxCopies = 10000; // of one insertion in rows and columns
 
 } // namespace
 
@@ -39,6 +41,78 @@ Acad::ErrorStatus AcDbBlockReference::setScaleFactors(const AcGeVector3d& scale)
   return assign(m_scale, scale, valid);
 }
 
+Acad::ErrorStatus AcDbBlockReference::setNormal(const AcGeVector3d& normal) {
+  if (!entity::isFinite(normal) || normal.isZeroLength()) return Acad::eInvalidInput;
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  const AcGePoint3d at = position();
+  m_normal = normal.normal();
+  m_position = entity::toObject(at, m_normal);
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbBlockReference::setBlockTableRecord(const AcDbObjectId& block) {
+  if (block.isNull()) return Acad::eNullObjectId;
+  if (!AcDbBlockTableRecord::cast(block.object())) return Acad::eNotThatKindOfClass;
+  if (database() && block.database() != database()) return Acad::eWrongDatabase;
+  if (database() && blockContains(block, ownerId())) return Acad::eSelfReference;
+  return assign(m_block, block);
+}
+
+Acad::ErrorStatus AcDbBlockReference::appendAttribute(AcDbAttribute* attribute) {
+  if (!attribute) return Acad::eNullObjectPointer;
+  if (attribute->database()) return Acad::eAlreadyInDb;
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  if (attribute->layerId().isNull() && layerId()) attribute->setLayer(layerId());
+  if (!database()) {
+    addNewSubEntity(std::unique_ptr<AcDbEntity>(attribute));
+    return Acad::eOk;
+  }
+  return database()->addSubEntity(attribute, *this);
+}
+
+Acad::ErrorStatus AcDbBlockReference::appendAttribute(AcDbObjectId& id, AcDbAttribute* attribute) {
+  const auto status = appendAttribute(attribute);
+  if (status == Acad::eOk) id = attribute->objectId();
+  return status;
+}
+
+std::vector<AcDbObjectId> AcDbBlockReference::attributes() const {
+  std::vector<AcDbObjectId> ids;
+  for (const AcDbObjectId& id : subEntities())
+    if (!id.isErased() && AcDbAttribute::cast(id.object())) ids.push_back(id);
+  return ids;
+}
+
+Acad::ErrorStatus AcDbBlockReference::setBlockTransform(const AcGeMatrix3d& matrix) {
+  if (!entity::isFinite(matrix)) return Acad::eInvalidInput;
+  if (matrix.isSingular() || !matrix.isScaledOrtho()) return Acad::eCannotScaleNonUniformly;
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  AcGePoint3d origin;
+  AcGeVector3d x, y, z;
+  matrix.getCoordSystem(origin, x, y, z);
+  m_normal = x.crossProduct(y).normal();
+  const AcGeVector3d xAxis = entity::xAxis(m_normal);
+  m_rotation = std::atan2(x.dotProduct(m_normal.crossProduct(xAxis)), x.dotProduct(xAxis));
+  m_scale = {x.length(), y.length(), std::copysign(z.length(), z.dotProduct(m_normal))};
+  m_position = entity::toObject(origin, m_normal);
+  return Acad::eOk;
+}
+
+// Of each row and column, capped: a damaged file may ask for a thousand million.
+std::vector<AcGeMatrix3d> AcDbBlockReference::copyTransforms() const {
+  std::vector<AcGeMatrix3d> transforms;
+  const AcGeMatrix3d first = blockTransform();
+  const AcGeMatrix3d turn =
+      AcGeMatrix3d::planeToWorld(m_normal) * AcGeMatrix3d::rotation(m_rotation, AcGeVector3d(0, 0, 1));
+  for (int row = 0; row < m_rows; ++row) {
+    for (int column = 0; column < m_columns && transforms.size() < kMaxCopies; ++column) {
+      const AcGeVector3d offset = turn * AcGeVector3d(column * m_columnSpacing, row * m_rowSpacing, 0);
+      transforms.push_back(AcGeMatrix3d::translation(offset) * first);
+    }
+  }
+  return transforms;
+}
+
 AcGeMatrix3d AcDbBlockReference::blockTransform() const {
   const auto* block = AcDbBlockTableRecord::cast(m_block.object());
   AcGeMatrix3d scaling;
@@ -55,30 +129,22 @@ void AcDbBlockReference::worldDraw(AcGiWorldDraw& draw) const {
   const auto* block = AcDbBlockTableRecord::cast(m_block.object());
   if (!block || std::find(t_drawing.begin(), t_drawing.end(), m_block) != t_drawing.end()) return;
   t_drawing.push_back(m_block);
-  const AcGeMatrix3d transform = blockTransform();
-  int copies = 0;
-  for (int row = 0; row < m_rows; ++row) {
-    for (int column = 0; column < m_columns && copies < kMaxCopiesDrawn; ++column, ++copies) {
-      const AcGeVector3d offset = AcGeMatrix3d::planeToWorld(m_normal) *
-                                  (AcGeMatrix3d::rotation(m_rotation, AcGeVector3d(0, 0, 1)) *
-                                   AcGeVector3d(column * m_columnSpacing, row * m_rowSpacing, 0));
-      draw.pushModelTransform(AcGeMatrix3d::translation(offset) * transform);
-      for (const AcDbObjectId& id : block->entities()) {
-        const auto* inner = AcDbEntity::cast(id.object());
-        if (!inner || inner->isErased() || !draw.beginEntity(*inner)) continue;
-        inner->worldDraw(draw);
-        draw.endEntity(*inner);
-      }
-      draw.popModelTransform();
+  const auto drawAll = [&](const std::vector<AcDbObjectId>& ids) {
+    for (const AcDbObjectId& id : ids) {
+      const auto* inner = AcDbEntity::cast(id.object());
+      if (!inner || inner->isErased() || !draw.beginEntity(*inner)) continue;
+      inner->worldDraw(draw);
+      draw.endEntity(*inner);
     }
+  };
+  for (const AcGeMatrix3d& transform : copyTransforms()) {
+    draw.pushModelTransform(transform);
+    drawAll(block->drawnEntities());
+    draw.popModelTransform();
   }
   t_drawing.pop_back();
-  for (const AcDbObjectId& id : subEntities()) {
-    const auto* attribute = AcDbEntity::cast(id.object());
-    if (!attribute || attribute->isErased() || !draw.beginEntity(*attribute)) continue;
-    attribute->worldDraw(draw);
-    draw.endEntity(*attribute);
-  }
+  drawAll(subEntities());
+  for (const auto& attribute : newSubEntities()) attribute->worldDraw(draw);
 }
 
 Acad::ErrorStatus AcDbBlockReference::transformBy(const AcGeMatrix3d& matrix) {
@@ -100,6 +166,7 @@ Acad::ErrorStatus AcDbBlockReference::transformBy(const AcGeMatrix3d& matrix) {
     AcDbObjectPointer<AcDbEntity> attribute(id, AcDb::kForWrite);
     if (attribute) attribute->transformBy(matrix);
   }
+  for (const auto& attribute : newSubEntities()) attribute->transformBy(matrix);
   return Acad::eOk;
 }
 
@@ -160,8 +227,7 @@ void AcDbBlockReference::dxfInFields(DxfTags tags, const DxfDecodeContext& conte
 void AcDbBlockReference::dxfOutFields(DxfRecordEditor& editor) const {
   AcDbEntity::dxfOutFields(editor);
   editor.subclass("AcDbBlockReference");
-  const auto& attributes = subEntities();
-  if (std::any_of(attributes.begin(), attributes.end(), [](const auto& id) { return !id.isErased(); }))
+  if (hasSubEntities())
     editor.integer(66, 1);
   else
     editor.remove(66);

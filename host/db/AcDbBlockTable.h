@@ -26,22 +26,54 @@ class AcDbBlockTableRecord : public AcDbSymbolTableRecord {
   bool isPaperSpace() const; // the active one
   bool isFromExternalReference() const;
   AcGePoint3d origin() const;
+  // The base point; may be set before the block is added to the table. eInvalidInput for what is not finite.
+  Acad::ErrorStatus setOrigin(const AcGePoint3d& origin);
+  // A description for the user.
+  CString comments() const;
+  Acad::ErrorStatus setComments(const CString& comments);
+
+  // External references:
+
+  bool isFromOverlayReference() const;
+  // Where the file of an external reference is, as the drawing says it; empty for other blocks.
+  CString pathName() const;
+  // A path that is not empty makes a block that is no external reference none: only one that is takes it.
+  // Empty is taken by every block.
+  Acad::ErrorStatus setPathName(const wchar_t* path);
+  // kXrfNotAnXref (0) for an ordinary block.
+  AcDb::XrefStatus xrefStatus() const;
+  // Makes the block refer to a drawing file. eNotApplicable for a space and for a block with entities.
+  Acad::ErrorStatus makeExternalReference(const CString& path, bool overlay);
+  // The drawing of a resolved external reference, owned by this one's; null otherwise.
+  AcDbDatabase* xrefDatabase() const;
+
+  // Marks as erased, with all that is in it. eObjectIsReferenced while insertions of it are in the drawing
+  // and for the spaces.
+  Acad::ErrorStatus erase(bool erasing = true) override;
   AcDbObjectId blockBeginId() const { return m_begin; }
   AcDbObjectId blockEndId() const { return m_end; }
 
   // For the database's own modules:
 
+  // What an insertion of the block shows: its entities, or those of the drawing that it refers to.
+  const std::vector<AcDbObjectId>& drawnEntities() const;
   void setBegin(const AcDbObjectId& begin) { m_begin = begin; }
   void setEnd(const AcDbObjectId& end) { m_end = end; }
   void file(const AcDbObjectId& entity) { m_entities.push_back(entity); }
 
  protected:
   void dxfOutFields(DxfRecordEditor& editor) const override;
+  bool acceptsName(const CString& name) const override;
+  Acad::ErrorStatus beforeAdding(AcDbSymbolTable& table) override;
+  void afterAdding() override;
 
  private:
+  AcDbBlockBegin* beginToChange();
+
   AcDbObjectId m_begin;
   AcDbObjectId m_end;
   std::vector<AcDbObjectId> m_entities;
+  AcGePoint3d m_newOrigin; // until there is a BLOCK to keep it
 };
 
 // Walks the entities of a block, erased ones skipped by default.

@@ -1,6 +1,8 @@
 #include "host/db/AcDbDatabase.h"
 
+#include "host/db/AcDbAttribute.h"
 #include "host/db/AcDbBlockMarks.h"
+#include "host/db/AcDbBlockReference.h"
 #include "host/db/AcDbBlockTable.h"
 #include "host/db/AcDbDatabaseReactor.h"
 #include "host/db/AcDbDictionary.h"
@@ -9,7 +11,9 @@
 #include "host/db/DxfDecodeContext.h"
 #include "host/db/DxfRecordEditor.h"
 #include "host/db/DxfText.h"
+#include "host/db/ExternalReferences.h"
 #include "host/db/NameReferences.h"
+#include "host/db/RecordNames.h"
 
 #include <algorithm>
 
@@ -22,7 +26,8 @@ AcDbHostApplicationServices* acdbHostApplicationServices() {
   return &services;
 }
 
-AcDbDatabase::AcDbDatabase(bool buildDefaultDrawing) : m_undo(std::make_unique<UndoHistory>(*this)) {
+AcDbDatabase::AcDbDatabase(bool buildDefaultDrawing)
+    : m_undo(std::make_unique<UndoHistory>(*this)), m_xrefs(std::make_unique<ExternalReferences>(*this)) {
   m_header = new AcDbHeader;
   // The header is an object so that undo covers it, but it has no handle of the drawing's: it is filed under
   // 0.
@@ -207,19 +212,23 @@ std::vector<CString> AcDbDatabase::completeStandardEntries() {
 void AcDbDatabase::completeBlocks() {
   for (const AcDbObjectId& id : tableOf("BLOCK_RECORD")->records()) {
     auto* block = AcDbBlockTableRecord::cast(id.object());
-    if (!block || block->isErased()) continue;
-    const AcDbObjectId layerZero = findRecord(tableOf("LAYER"), L"0");
-    const auto mark = [&](AcDbEntity* entity) {
-      entity->setLayer(layerZero);
-      addAcDbObject(entity, id);
-      entity->setPaperSpace(block->isLayout() && !block->isModelSpace());
-      entity->setImplicit(true);
-      entity->close();
-      return entity->objectId();
-    };
-    if (block->blockBeginId().isNull()) block->setBegin(mark(new AcDbBlockBegin));
-    if (block->blockEndId().isNull()) block->setEnd(mark(new AcDbBlockEnd));
+    if (block && !block->isErased()) completeBlock(*block);
   }
+}
+
+void AcDbDatabase::completeBlock(AcDbBlockTableRecord& block) {
+  if (block.blockBeginId() && block.blockEndId()) return;
+  const AcDbObjectId layerZero = findRecord(tableOf("LAYER"), L"0");
+  const auto mark = [&](AcDbEntity* entity) {
+    entity->setLayer(layerZero);
+    addAcDbObject(entity, block.objectId());
+    entity->setPaperSpace(block.isLayout() && !block.isModelSpace());
+    entity->setImplicit(true);
+    entity->close();
+    return entity->objectId();
+  };
+  if (block.blockBeginId().isNull()) block.setBegin(mark(new AcDbBlockBegin));
+  if (block.blockEndId().isNull()) block.setEnd(mark(new AcDbBlockEnd));
 }
 
 // Dictionaries and objects:
@@ -243,6 +252,46 @@ Acad::ErrorStatus AcDbDatabase::addAcDbObject(AcDbObject* object, const AcDbObje
   object->openAsNew();
   afterAppend(*object);
   return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbDatabase::addSubEntity(AcDbEntity* sub, AcDbEntity& parent) {
+  if (!sub) return Acad::eNullObjectPointer;
+  if (parent.database() != this) return Acad::eWrongDatabase;
+  const auto add = [&](AcDbEntity* entity) {
+    if (entity->layerId().isNull()) entity->setLayer(parent.layerId());
+    const auto status = addAcDbObject(entity, parent.objectId());
+    if (status != Acad::eOk) return status;
+    entity->setPaperSpace(parent.isInPaperSpace());
+    parent.addSubEntity(entity->objectId());
+    return status;
+  };
+  if (const auto status = add(sub); status != Acad::eOk) return status;
+  const auto& subs = parent.subEntities();
+  if (std::none_of(subs.begin(), subs.end(), [](const AcDbObjectId& id) {
+        return !id.isErased() && AcDbSequenceEnd::cast(id.object());
+      })) {
+    auto* end = new AcDbSequenceEnd;
+    if (const auto status = add(end); status != Acad::eOk) return status;
+    end->close();
+  }
+  parent.invalidateRecord();
+  return Acad::eOk;
+}
+
+void AcDbDatabase::eraseWhole(AcDbObject& object, bool erasing) {
+  if (object.isErased() == erasing) return;
+  m_undo->recordBefore(object);
+  object.setErasedFlag(erasing);
+  afterErase(object, erasing);
+  if (const auto* entity = AcDbEntity::cast(&object))
+    for (const AcDbObjectId& id : entity->subEntities()) eraseWhole(*id.object(), erasing);
+}
+
+bool AcDbDatabase::isBlockReferenced(const AcDbObjectId& block) const {
+  return std::any_of(m_stubs.begin(), m_stubs.end(), [&](const AcDbStub& stub) {
+    const auto* reference = AcDbBlockReference::cast(stub.object);
+    return reference && !reference->isErased() && reference->blockTableRecord() == block;
+  });
 }
 
 bool AcDbDatabase::giveHandle(AcDbObject& object, AcDbHandle handle) {
@@ -312,11 +361,22 @@ void AcDbDatabase::removeReactor(AcDbDatabaseReactor* reactor) {
   std::erase(m_reactors, reactor);
 }
 
-void AcDbDatabase::beforeRename(const AcDbObjectId& record) {
+// By the records, so that what the host keeps without understanding it takes the new name too.
+void AcDbDatabase::beforeRename(const AcDbObjectId& record, const CString& newName) {
+  const auto& named = *static_cast<const AcDbSymbolTableRecord*>(record.object());
+  const auto* table = AcDbSymbolTable::cast(named.ownerId().object());
+  if (!table || named.name().IsEmpty()) return;
+  const CString oldName = named.name();
+  const auto change = [&](std::string_view type, const CString& name) -> std::optional<CString> {
+    const bool isMeant = type == table->recordType() && name.CompareNoCase(oldName) == 0;
+    return isMeant ? std::optional(newName) : std::nullopt;
+  };
   for (const AcDbStub& stub : m_stubs) {
-    if (!namesRecord(*stub.object, record)) continue;
+    if (stub.object == &named) continue;
+    const auto renamed = dxf::withNames(stub.object->record(), dxf::recordKindOf(*stub.object), change);
+    if (!renamed) continue;
     m_undo->recordBefore(*stub.object);
-    stub.object->invalidateRecord();
+    stub.object->replaceRecordText(*renamed);
   }
 }
 

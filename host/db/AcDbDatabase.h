@@ -2,6 +2,7 @@
 // variables, its undo history, and the form in which it stood in its file.
 #pragma once
 
+#include "host/db/AcDb.h"
 #include "host/db/AcDbHeader.h"
 #include "host/db/AcDbObject.h"
 #include "host/db/DrawingForm.h"
@@ -14,9 +15,14 @@
 #include <vector>
 
 class AcDbBlockTable;
+class AcDbBlockTableRecord;
 class AcDbDatabaseReactor;
 class AcDbDictionary;
+class AcDbIdMapping;
+class AcGeMatrix3d;
+class AcGePoint3d;
 class AcDbDimStyleTable;
+class AcDbEntity;
 class AcDbLayerTable;
 class AcDbLinetypeTable;
 class AcDbRegAppTable;
@@ -25,6 +31,7 @@ class AcDbTextStyleTable;
 class AcDbUCSTable;
 class AcDbViewTable;
 class AcDbViewportTable;
+class ExternalReferences;
 
 class AcDbDatabase {
  public:
@@ -35,6 +42,21 @@ class AcDbDatabase {
   ~AcDbDatabase();
   AcDbDatabase(const AcDbDatabase&) = delete;
   AcDbDatabase& operator=(const AcDbDatabase&) = delete;
+
+  // Files:
+
+  // Reads a drawing file into a database made with AcDbDatabase(false) that holds nothing yet
+  // (eNotApplicable otherwise, and where no module of the program reads files). eFileNotFound,
+  // eFileAccessErr, eDamagedFile; the reason goes to the message log, and the database is to be thrown away.
+  // The whole file is read at once and closed, so that the sharing mode has nothing to forbid.
+  Acad::ErrorStatus readDwgFile(const wchar_t* fileName, int sharingMode = 32, bool allowConversion = true);
+  // Writes the drawing in its version. eFileAccessErr leaves an old file as it was.
+  Acad::ErrorStatus saveAs(const wchar_t* fileName);
+  // Where the drawing was read from or saved to; empty for a new one. Paths of external references start
+  // there.
+  const CString& fileName() const { return m_fileName; }
+  void setFileName(const CString& path) { m_fileName = path; }
+  ExternalReferences& xrefs() const { return *m_xrefs; }
 
   // Symbol tables:
 
@@ -78,6 +100,13 @@ class AcDbDatabase {
   Acad::ErrorStatus addAcDbObject(AcDbObject* object, const AcDbObjectId& owner = {}, AcDbHandle handle = {});
   // addAcDbObject, and the object is filed in the OBJECTS section.
   Acad::ErrorStatus addToObjects(AcDbObject* object, const AcDbObjectId& owner, AcDbHandle handle = {});
+  // Takes sub into the drawing as a part of parent; a run of parts gets its end mark. It stays open for
+  // write.
+  Acad::ErrorStatus addSubEntity(AcDbEntity* sub, AcDbEntity& parent);
+  // Marks as erased, or brings back, an object with its sub-entities, on a locked layer too.
+  void eraseWhole(AcDbObject& object, bool erasing = true);
+  // Whether an insertion of the block that isn't erased is in the drawing.
+  bool isBlockReferenced(const AcDbObjectId& block) const;
   Acad::ErrorStatus getAcDbObjectId(AcDbObjectId& id, bool createIfNotFound, const AcDbHandle& handle) const;
   bool hasHandle(AcDbHandle handle) const { return m_byHandle.find(handle) != nullptr; }
   AcDbHandle handseed() const { return AcDbHandle(m_nextHandle); }
@@ -85,6 +114,38 @@ class AcDbDatabase {
   std::size_t objectCount() const { return m_stubs.size(); }
   // All objects in the order in which they came, erased ones included.
   const std::deque<AcDbStub>& stubs() const { return m_stubs; }
+
+  // Copying:
+
+  // Copies entities of this drawing into one of its blocks, with attributes, extension dictionaries and, of a
+  // dimension, its picture. Pointers among them lead to the copies, others stay. map tells the copies.
+  // eNullObjectId, eWasErased, eWrongDatabase, eNotThatKindOfClass before anything is copied; eSelfReference
+  // for an insertion that would make the block contain itself, what came before it is copied then.
+  Acad::ErrorStatus deepCloneObjects(const std::vector<AcDbObjectId>& ids, const AcDbObjectId& owner,
+                                     AcDbIdMapping& map);
+  // The same into a block of another drawing, which gets what the copies name (layers, linetypes, styles,
+  // blocks, applications) as far as it lacks it. Anonymous blocks get new numbers there.
+  Acad::ErrorStatus wblockCloneObjects(const std::vector<AcDbObjectId>& ids, const AcDbObjectId& owner,
+                                       AcDbIdMapping& map,
+                                       AcDb::DuplicateRecordCloning duplicates = AcDb::kDrcIgnore);
+  // Copies entities into the model space of output, moved so that basePoint comes to stand at its origin.
+  Acad::ErrorStatus wblock(AcDbDatabase* output, const std::vector<AcDbObjectId>& ids,
+                           const AcGePoint3d& basePoint, AcDb::DuplicateRecordCloning duplicates);
+  // The same into a new drawing that the caller owns, null on failure.
+  Acad::ErrorStatus wblock(AcDbDatabase*& output, const std::vector<AcDbObjectId>& ids,
+                           const AcGePoint3d& basePoint);
+  // The contents of a block, its base point at the origin.
+  Acad::ErrorStatus wblock(AcDbDatabase*& output, const AcDbObjectId& block);
+  // The whole drawing, under the same handles.
+  Acad::ErrorStatus wblock(AcDbDatabase*& output) const;
+  // Makes the model space of another drawing a new block of this one; "*U" names it by the next free number.
+  // Its base point is the other drawing's. eInvalidName, eDuplicateRecordName. The source stays as it was,
+  // preserved or not.
+  Acad::ErrorStatus insert(AcDbObjectId& block, const wchar_t* name, AcDbDatabase* source,
+                           bool preserveSourceDatabase = true);
+  // Copies the model space of another drawing into the one of this, transformed.
+  Acad::ErrorStatus insert(const AcGeMatrix3d& transform, AcDbDatabase* source,
+                           bool preserveSourceDatabase = true);
 
   // Settings:
 
@@ -113,7 +174,7 @@ class AcDbDatabase {
   void setModified(bool modified) { m_modified = modified; }
   // Told by a table record that is about to get another name: what names it takes the new name into its own
   // record, and undo covers that too.
-  void beforeRename(const AcDbObjectId& record);
+  void beforeRename(const AcDbObjectId& record, const CString& newName);
   // Told when undo has brought an old name back, which undo itself brings back where it was named then.
   void afterRename(const AcDbObjectId& record);
 
@@ -137,12 +198,14 @@ class AcDbDatabase {
   std::vector<CString> completeStandardEntries();
   // Gives each block that lacks them its begin and end marks, without which it can't be filed.
   void completeBlocks();
+  void completeBlock(AcDbBlockTableRecord& block);
 
  private:
   friend class UndoHistory;
   template <typename Table> Acad::ErrorStatus openTable(Table*& table, AcDb::OpenMode mode);
   template <typename Table> AcDbObjectId tableId() const;
   void createTables();
+  bool isFresh() const;
 
   std::deque<AcDbStub> m_stubs;
   HandleIndex m_byHandle;
@@ -153,6 +216,8 @@ class AcDbDatabase {
   AcDbHeader* m_header = nullptr;
   std::unique_ptr<UndoHistory> m_undo;
   DrawingForm m_form;
+  CString m_fileName;
+  std::unique_ptr<ExternalReferences> m_xrefs;
   std::vector<AcDbDatabaseReactor*> m_reactors;
   bool m_modified = false;
   bool m_loading = false;
@@ -182,7 +247,6 @@ inline Acad::ErrorStatus acdbOpenAcDbObject(AcDbObject*& object, const AcDbObjec
   return acdbOpenObject(object, id, mode, openErased);
 }
 
-class AcDbEntity;
 Acad::ErrorStatus acdbOpenAcDbEntity(AcDbEntity*& entity, const AcDbObjectId& id, AcDb::OpenMode mode,
                                      bool openErased = false);
 

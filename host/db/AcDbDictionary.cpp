@@ -51,6 +51,19 @@ Acad::ErrorStatus AcDbDictionary::remove(const wchar_t* name) {
   return Acad::eOk;
 }
 
+const AcDbDictionary::Entry* AcDbDictionary::entryOf(AcDbHandle handle) const {
+  const auto found = std::find_if(m_entries.begin(), m_entries.end(),
+                                  [&](const Entry& entry) { return entry.handle == handle; });
+  return found == m_entries.end() ? nullptr : &*found;
+}
+
+void AcDbDictionary::fileEntry(const Entry& entry) {
+  std::erase_if(m_entries, [&](const Entry& e) { return e.name.CompareNoCase(entry.name) == 0; });
+  m_entries.push_back(entry);
+  m_entriesChanged = true;
+  assertWriteEnabled();
+}
+
 void AcDbDictionary::dxfInFields(DxfTags tags, const DxfDecodeContext&) {
   m_entries.clear();
   m_entriesChanged = false;

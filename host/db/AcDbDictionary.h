@@ -30,6 +30,13 @@ class AcDbDictionary : public AcDbObject {
   // Takes the entry away and erases its object.
   Acad::ErrorStatus remove(const wchar_t* name);
 
+  // For the database's own modules:
+
+  // The entry of an object, or null.
+  const Entry* entryOf(AcDbHandle handle) const;
+  // Takes an entry in, in place of one of its name. What that one named stays.
+  void fileEntry(const Entry& entry);
+
  protected:
   void dxfInFields(DxfTags tags, const DxfDecodeContext& context) override;
   void dxfOutFields(DxfRecordEditor& editor) const override;

@@ -1,5 +1,6 @@
 #include "host/db/AcDbEntity.h"
 
+#include "host/db/AcDbAttribute.h"
 #include "host/db/AcDbDatabase.h"
 #include "host/db/AcDbLayerTable.h"
 #include "host/db/AcDbObjectPointer.h"
@@ -9,7 +10,9 @@
 #include "host/db/DxfText.h"
 #include "host/db/ExtentsDraw.h"
 
+#include <algorithm>
 #include <cmath>
+#include <utility>
 
 ACRX_NO_CONS_DEFINE_MEMBERS(AcDbEntity, AcDbObject)
 
@@ -39,6 +42,7 @@ template <typename Setter> Acad::ErrorStatus AcDbEntity::withSubEntities(bool do
     AcDbObjectPointer<AcDbEntity> sub(id, AcDb::kForWrite);
     if (sub) set(*sub.object());
   }
+  for (const auto& sub : newSubEntities()) set(*sub);
   return status;
 }
 
@@ -176,6 +180,12 @@ AcDbObject* AcDbEntity::cloneInto(std::unique_ptr<AcDbObject> made) const {
     entity->m_layer = m_layer;
     entity->m_linetype = m_linetype;
     entity->m_paperSpace = false;
+    const auto copySub = [&](const AcDbEntity* sub) {
+      if (auto* copy = sub && !sub->isErased() ? AcDbEntity::cast(sub->clone()) : nullptr)
+        entity->addNewSubEntity(std::unique_ptr<AcDbEntity>(copy));
+    };
+    for (const AcDbObjectId& id : subEntities()) copySub(AcDbEntity::cast(id.object()));
+    for (const auto& sub : newSubEntities()) copySub(sub.get());
   }
   return object;
 }
@@ -197,12 +207,35 @@ Acad::ErrorStatus AcDbEntity::erase(bool erasing) {
 
 const std::vector<AcDbObjectId>& AcDbEntity::subEntities() const {
   static const std::vector<AcDbObjectId> none;
-  return m_subEntities ? *m_subEntities : none;
+  return m_subEntities ? m_subEntities->ids : none;
 }
 
 void AcDbEntity::addSubEntity(const AcDbObjectId& id) {
-  if (!m_subEntities) m_subEntities = std::make_unique<std::vector<AcDbObjectId>>();
-  m_subEntities->push_back(id);
+  if (!m_subEntities) m_subEntities = std::make_unique<SubEntities>();
+  // The end mark stays the last.
+  auto& ids = m_subEntities->ids;
+  const bool ended = !ids.empty() && AcDbSequenceEnd::cast(ids.back().object()) && !ids.back().isErased();
+  ids.insert(ended ? ids.end() - 1 : ids.end(), id);
+}
+
+const std::vector<std::unique_ptr<AcDbEntity>>& AcDbEntity::newSubEntities() const {
+  static const std::vector<std::unique_ptr<AcDbEntity>> none;
+  return m_subEntities ? m_subEntities->fresh : none;
+}
+
+void AcDbEntity::addNewSubEntity(std::unique_ptr<AcDbEntity> entity) {
+  if (!m_subEntities) m_subEntities = std::make_unique<SubEntities>();
+  m_subEntities->fresh.push_back(std::move(entity));
+}
+
+std::vector<std::unique_ptr<AcDbEntity>> AcDbEntity::takeNewSubEntities() {
+  return m_subEntities ? std::exchange(m_subEntities->fresh, {}) : std::vector<std::unique_ptr<AcDbEntity>>();
+}
+
+bool AcDbEntity::hasSubEntities() const {
+  if (!newSubEntities().empty()) return true;
+  const auto& ids = subEntities();
+  return std::any_of(ids.begin(), ids.end(), [](const AcDbObjectId& id) { return !id.isErased(); });
 }
 
 void AcDbEntity::dxfInFields(DxfTags tags, const DxfDecodeContext& context) {

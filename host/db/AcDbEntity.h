@@ -82,6 +82,11 @@ class AcDbEntity : public AcDbObject {
   // Entities that belong to this one and follow it in the file (attributes, vertices, the end mark).
   const std::vector<AcDbObjectId>& subEntities() const;
   void addSubEntity(const AcDbObjectId& id);
+  // Those of an entity outside a drawing, which enter the drawing with it.
+  const std::vector<std::unique_ptr<AcDbEntity>>& newSubEntities() const;
+  void addNewSubEntity(std::unique_ptr<AcDbEntity> entity);
+  std::vector<std::unique_ptr<AcDbEntity>> takeNewSubEntities();
+  bool hasSubEntities() const; // one that isn't erased
 
   // Drawing order across the spaces that share the ENTITIES section; later is higher.
   std::uint32_t rank() const { return m_rank; }
@@ -105,5 +110,9 @@ class AcDbEntity : public AcDbObject {
   bool m_visible = true;
   bool m_paperSpace = false;
   std::uint32_t m_rank = 0;
-  std::unique_ptr<std::vector<AcDbObjectId>> m_subEntities;
+  struct SubEntities {
+    std::vector<AcDbObjectId> ids;
+    std::vector<std::unique_ptr<AcDbEntity>> fresh;
+  };
+  std::unique_ptr<SubEntities> m_subEntities;
 };

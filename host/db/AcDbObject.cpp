@@ -1,8 +1,10 @@
 #include "host/db/AcDbObject.h"
 
 #include "host/db/AcDbDatabase.h"
+#include "host/db/AcDbDictionary.h"
 #include "host/db/AcDbEntity.h"
 #include "host/db/AcDbLayerTable.h"
+#include "host/db/AcDbObjectPointer.h"
 #include "host/db/DxfDecodeContext.h"
 #include "host/db/DxfRecordEditor.h"
 #include "host/db/DxfText.h"
@@ -151,6 +153,40 @@ AcDbObjectId AcDbObject::extensionDictionary() const {
     return id;
   }
   return {};
+}
+
+void AcDbObject::setExtensionDictionary(const AcDbObjectId& dictionary) {
+  DxfRecordEditor editor(record(), true);
+  editor.group("{ACAD_XDICTIONARY",
+               dictionary ? DxfRecordEditor::tag(360, dictionary.handle().toHex()) : std::string());
+  m_record = editor.finish();
+  m_changedWhileOpen = true;
+  m_implicit = false;
+}
+
+Acad::ErrorStatus AcDbObject::createExtensionDictionary() {
+  if (!isWriteEnabled()) return Acad::eNotOpenForWrite;
+  if (!database()) return Acad::eNoDatabase;
+  const AcDbObjectId before = extensionDictionary();
+  if (before && !before.isErased()) return Acad::eAlreadyInDb;
+  auto* dictionary = new AcDbDictionary;
+  if (const auto status = database()->addToObjects(dictionary, objectId()); status != Acad::eOk) {
+    delete dictionary;
+    return status;
+  }
+  dictionary->close();
+  setExtensionDictionary(dictionary->objectId());
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbObject::releaseExtensionDictionary() {
+  if (!isWriteEnabled()) return Acad::eNotOpenForWrite;
+  AcDbObjectPointer<AcDbDictionary> dictionary(extensionDictionary(), AcDb::kForWrite);
+  if (!dictionary) return Acad::eKeyNotFound;
+  if (dictionary->numEntries() > 0) return Acad::eObjectIsReferenced;
+  dictionary->erase();
+  setExtensionDictionary({});
+  return Acad::eOk;
 }
 
 resbuf* AcDbObject::xData(const wchar_t* application) const {

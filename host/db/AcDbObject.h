@@ -54,12 +54,18 @@ class AcDbObject : public AcRxObject {
   // total, eInvalidInput for a chain that is none. Must be open for write.
   Acad::ErrorStatus setXData(const resbuf* chain);
 
+  // The dictionary of further data of this object; null where it has none.
   AcDbObjectId extensionDictionary() const;
+  // Makes one, empty. eAlreadyInDb when there is one, eNoDatabase outside a drawing. Must be open for write.
+  Acad::ErrorStatus createExtensionDictionary();
+  // Erases it when it is empty; eKeyNotFound when there is none, eObjectIsReferenced when it isn't empty.
+  Acad::ErrorStatus releaseExtensionDictionary();
+  // For the database's own modules; null takes the entry away.
+  void setExtensionDictionary(const AcDbObjectId& dictionary);
 
   // A copy outside of any drawing that the caller owns: fields, what the host keeps of them without
-  // understanding it, and extended data, but no handle, owner, reactors, extension dictionary or
-  // sub-entities. Null for a class that can't be made. To copy with all that belongs to it:
-  // AcDbDatabase::deepCloneObjects.
+  // understanding it, extended data and sub-entities, but no handle, owner, reactors or extension dictionary.
+  // Null for a class that can't be made. Within a drawing: AcDbDatabase::deepCloneObjects.
   AcRxObject* clone() const;
 
   // Persistent form:
@@ -75,6 +81,9 @@ class AcDbObject : public AcRxObject {
   void setImplicit(bool implicit) { m_implicit = implicit; }
   // Makes the next record() merge the fields again, because a name that they refer to has changed.
   void invalidateRecord() { m_fieldsChanged = true; }
+
+  // Takes a record that says the same in other words: fields stay, for they hold what is named and no names.
+  void replaceRecordText(const DxfRecord& record) { m_record = record; }
 
   // Opening, for the database:
 

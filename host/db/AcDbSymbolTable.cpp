@@ -52,11 +52,13 @@ Acad::ErrorStatus AcDbSymbolTable::add(AcDbSymbolTableRecord* record) {
   if (record->database()) return Acad::eAlreadyInDb;
   if (!record->isKindOf(recordClass())) return Acad::eNotThatKindOfClass;
   if (record->name().IsEmpty()) return Acad::eInvalidName;
+  if (const auto status = record->beforeAdding(*this); status != Acad::eOk) return status;
   if (has(record->name())) return Acad::eDuplicateRecordName;
   const auto status = database()->addAcDbObject(record, objectId());
   if (status != Acad::eOk) return status;
   file(*record);
   assertWriteEnabled(); // the table counts its entries
+  record->afterAdding();
   database()->afterChange(*record);
   return Acad::eOk;
 }
@@ -88,6 +90,17 @@ void AcDbSymbolTable::arrange(const std::vector<AcDbObjectId>& order) {
   std::copy_if(m_records.begin(), m_records.end(), std::back_inserter(records),
                [&](const AcDbObjectId& id) { return !first.contains(id); });
   m_records = std::move(records);
+}
+
+CString AcDbSymbolTable::nextAnonymousName(const CString& prefix) {
+  int& last = m_lastNumbers[folded(prefix.View())];
+  CString name;
+  AcDbObjectId taken;
+  do {
+    name.Format(L"%s%d", prefix, ++last);
+    // A number that an erased block had is not given again: undo may bring the block back.
+  } while (getAt(name, taken, true) == Acad::eOk);
+  return name;
 }
 
 void AcDbSymbolTable::nameChanged(AcDbSymbolTableRecord& record) {

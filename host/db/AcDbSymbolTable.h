@@ -38,6 +38,8 @@ class AcDbSymbolTable : public AcDbObject {
   // The records that order names come first, in its order; the others stay behind them as they were.
   void arrange(const std::vector<AcDbObjectId>& order);
   void nameChanged(AcDbSymbolTableRecord& record);
+  // The first free name that begins so and goes on with a number from 1.
+  CString nextAnonymousName(const CString& prefix);
   // What closes the table in a file.
   const DxfRecord& endRecord() const { return m_endRecord; }
   void setEndRecord(DxfRecord end) { m_endRecord = std::move(end); }
@@ -49,6 +51,7 @@ class AcDbSymbolTable : public AcDbObject {
   std::vector<AcDbObjectId> m_records;
   // By folded name, in the order of filing: damaged files have thousands under one. May hold names of before.
   std::unordered_map<std::wstring, std::vector<AcDbObjectId>> m_byName;
+  std::unordered_map<std::wstring, int> m_lastNumbers; // by folded prefix, where to look on
   std::string m_recordType;
   DxfRecord m_endRecord;
 };

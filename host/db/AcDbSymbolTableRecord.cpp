@@ -42,7 +42,7 @@ Acad::ErrorStatus AcDbSymbolTableRecord::setName(const wchar_t* newName) {
   const CString wanted = newName;
   if (!isWriteEnabled()) return Acad::eNotOpenForWrite;
   if (wanted == m_name) return Acad::eOk;
-  if (!isValidSymbolName(wanted)) return Acad::eInvalidName;
+  if (!acceptsName(wanted)) return Acad::eInvalidName;
   auto* table = AcDbSymbolTable::cast(ownerId().object());
   if (table) {
     if (isFixedName(table->recordType(), m_name)) return Acad::eInvalidName;
@@ -51,7 +51,7 @@ Acad::ErrorStatus AcDbSymbolTableRecord::setName(const wchar_t* newName) {
   }
   const bool isCurrentLayer = database() && table && database()->clayer() == objectId();
   if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  if (table) database()->beforeRename(objectId());
+  if (table) database()->beforeRename(objectId(), wanted);
   m_name = wanted;
   if (table) {
     table->nameChanged(*this);

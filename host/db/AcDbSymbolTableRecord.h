@@ -3,6 +3,8 @@
 
 #include "host/db/AcDbObject.h"
 
+class AcDbSymbolTable;
+
 class AcDbSymbolTableRecord : public AcDbObject {
   ACRX_DECLARE_MEMBERS(AcDbSymbolTableRecord);
 
@@ -25,7 +27,13 @@ class AcDbSymbolTableRecord : public AcDbObject {
   // 255 characters. Names that files already have are taken as they come.
   static bool isValidSymbolName(const CString& name);
 
+  // What a table asks of a record that is being added, and tells it when it is.
+  virtual Acad::ErrorStatus beforeAdding(AcDbSymbolTable&) { return Acad::eOk; }
+  virtual void afterAdding() {}
+
  protected:
+  // Whether setName may give the record this name.
+  virtual bool acceptsName(const CString& name) const { return isValidSymbolName(name); }
   void dxfInFields(DxfTags tags, const DxfDecodeContext& context) override;
   void dxfOutFields(DxfRecordEditor& editor) const override;
   // Head, table entry marker, own marker, name and flags, for derived classes to go on behind.

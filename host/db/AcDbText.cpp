@@ -54,11 +54,23 @@ Acad::ErrorStatus AcDbText::setTextStyle(const AcDbObjectId& style) {
   return Acad::eOk;
 }
 
+Acad::ErrorStatus AcDbText::setOblique(double angle) {
+  return assign(m_oblique, angle, std::isfinite(angle));
+}
+
+std::optional<AcGePoint3d> AcDbText::alignmentPoint() const {
+  return m_alignment ? std::optional(entity::toWorld(*m_alignment, m_normal)) : std::nullopt;
+}
+
 void AcDbText::worldDraw(AcGiWorldDraw& draw) const {
+  drawText(draw, textString());
+}
+
+void AcDbText::drawText(AcGiWorldDraw& draw, const CString& text) const {
   const AcGeVector3d x = entity::xAxis(m_normal);
   const AcGeVector3d y = m_normal.crossProduct(x);
   draw.text(position(), m_normal, x * std::cos(m_rotation) + y * std::sin(m_rotation), m_height,
-            m_widthFactor, textString());
+            m_widthFactor, text);
 }
 
 Acad::ErrorStatus AcDbText::transformBy(const AcGeMatrix3d& matrix) {
@@ -147,5 +159,6 @@ void AcDbText::dxfOutFields(DxfRecordEditor& editor) const {
   if (m_alignment) editor.point(11, *m_alignment);
   editor.vector(210, m_normal, {0, 0, 1});
   // The second marker of the class closes its first half, also where no alignment follows.
-  if (rawRecord().isEmpty() && editor.subclassMarkers()) editor.closingMarker("AcDbText");
+  if (rawRecord().isEmpty() && editor.subclassMarkers() && hasClosingMarker())
+    editor.closingMarker("AcDbText");
 }

@@ -9,6 +9,11 @@ class AcDbText : public AcDbEntity {
   ACRX_DECLARE_MEMBERS(AcDbText);
 
  public:
+  AcDbText() = default;
+  // World position, drawing units, radians. A null style is the drawing's Standard.
+  AcDbText(const AcGePoint3d& position, const CString& text, const AcDbObjectId& style = {},
+           double height = 2.5, double rotation = 0)
+      : m_position(position), m_height(height), m_rotation(rotation), m_style(style), m_newText(text) {}
   CString textString() const;
   Acad::ErrorStatus setTextString(const CString& text);
   AcGePoint3d position() const; // world
@@ -19,6 +24,11 @@ class AcDbText : public AcDbEntity {
   Acad::ErrorStatus setRotation(double angle);
   double widthFactor() const { return m_widthFactor; }
   Acad::ErrorStatus setWidthFactor(double factor); // above 0, eInvalidInput otherwise
+  double oblique() const { return m_oblique; }     // radians
+  Acad::ErrorStatus setOblique(double angle);
+  AcGeVector3d normal() const { return m_normal; }
+  // The second point of aligned text, which is where it hangs; nothing for text that begins at its position.
+  std::optional<AcGePoint3d> alignmentPoint() const; // world
   AcDbObjectId textStyle() const { return m_style; }
   Acad::ErrorStatus setTextStyle(const AcDbObjectId& style);
   void worldDraw(AcGiWorldDraw& draw) const override;
@@ -27,6 +37,9 @@ class AcDbText : public AcDbEntity {
  protected:
   void dxfInFields(DxfTags tags, const DxfDecodeContext& context) override;
   void dxfOutFields(DxfRecordEditor& editor) const override;
+  // Whether a record of the class ends with its marker a second time.
+  virtual bool hasClosingMarker() const { return true; }
+  void drawText(AcGiWorldDraw& draw, const CString& text) const;
 
  private:
   AcGePoint3d m_position; // in the system of the normal

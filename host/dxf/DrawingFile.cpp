@@ -21,8 +21,15 @@ bool isDwg(std::string_view bytes) {
 dxf::ReadReport dxf::ReadDrawing(const CString& path, AcDbDatabase& database, const ReadOptions& options) {
   std::string bytes;
   const afx::FileResult file = afx::ReadWholeFile(path, bytes, kMaxFileSize);
-  if (!file.ok) return {false, file.message, {}};
-  return ReadDrawingBytes(std::move(bytes), path, database, options);
+  if (!file.ok) {
+    ReadReport report;
+    report.error = file.message;
+    return report;
+  }
+  database.setFileName(path);
+  ReadReport report = ReadDrawingBytes(std::move(bytes), path, database, options);
+  report.wasRead = true;
+  return report;
 }
 
 dxf::ReadReport dxf::ReadDrawingBytes(std::string bytes, const CString& name, AcDbDatabase& database,
@@ -82,6 +89,7 @@ dxf::WriteReport dxf::WriteDrawing(AcDbDatabase& database, const CString& path, 
   }
   const afx::FileResult result = file.Commit();
   report.ok = result.ok;
+  if (result.ok) database.setFileName(path);
   report.error = result.message;
   return report;
 }

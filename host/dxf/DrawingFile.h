@@ -31,7 +31,8 @@ struct ReadOptions {
 
 struct ReadReport {
   bool ok = false;
-  CString error; // names the file, and line and group where there are any; empty when ok
+  bool wasRead = false; // whether the bytes of the file came, good or bad
+  CString error;        // names the file, and line and group where there are any; empty when ok
   std::vector<Repair> repairs;
 };
 
