@@ -51,7 +51,7 @@ TEST_P(Edit, OfOneLayerAndOneEntityChangesTwoTagsAndIsTakenBackWhole) {
   if (hasEntity) {
     AcDbObjectPointer<AcDbEntity> entity(entityId, AcDb::kForWrite);
     ASSERT_TRUE(entity) << entity.openStatus();
-    EXPECT_EQ(entity->setColorIndex(entity->colorIndex() == 3 ? 4 : 3), Acad::eOk);
+    EXPECT_EQ(entity->setColorIndex(entity->colorIndex() == 3 ? 4 : 3, false), Acad::eOk);
   }
   database.undo().endCommand();
 
