@@ -4,7 +4,6 @@
 #include "host/db/AcDbBlockMarks.h"
 #include "host/db/AcDbBlockReference.h"
 #include "host/db/AcDbBlockTable.h"
-#include "host/db/AcDbDatabaseReactor.h"
 #include "host/db/AcDbDictionary.h"
 #include "host/db/AcDbLayerTable.h"
 #include "host/db/AcDbTables.h"
@@ -17,6 +16,11 @@
 
 #include <algorithm>
 
+std::vector<AcDbDatabase*>& AcDbDatabase::allDatabases() {
+  static auto* const databases = new std::vector<AcDbDatabase*>; // outlives databases of every module
+  return *databases;
+}
+
 bool AcDbObjectId::isErased() const {
   return m_stub && m_stub->object && m_stub->object->isErased();
 }
@@ -28,6 +32,7 @@ AcDbHostApplicationServices* acdbHostApplicationServices() {
 
 AcDbDatabase::AcDbDatabase(bool buildDefaultDrawing)
     : m_undo(std::make_unique<UndoHistory>(*this)), m_xrefs(std::make_unique<ExternalReferences>(*this)) {
+  allDatabases().push_back(this);
   m_header = new AcDbHeader;
   // The header is an object so that undo covers it, but it has no handle of the drawing's: it is filed under
   // 0.
@@ -38,7 +43,8 @@ AcDbDatabase::AcDbDatabase(bool buildDefaultDrawing)
 }
 
 AcDbDatabase::~AcDbDatabase() {
-  for (AcDbDatabaseReactor* reactor : std::vector(m_reactors)) reactor->goodbye(this);
+  sayGoodbye();
+  std::erase(allDatabases(), this);
   if (acdbHostApplicationServices()->workingDatabase() == this)
     acdbHostApplicationServices()->setWorkingDatabase(nullptr);
   for (AcDbStub& stub : m_stubs) {
@@ -352,15 +358,6 @@ Acad::ErrorStatus AcDbDatabase::setClayer(const AcDbObjectId& layer) {
 
 // State:
 
-void AcDbDatabase::addReactor(AcDbDatabaseReactor* reactor) {
-  if (reactor && std::find(m_reactors.begin(), m_reactors.end(), reactor) == m_reactors.end())
-    m_reactors.push_back(reactor);
-}
-
-void AcDbDatabase::removeReactor(AcDbDatabaseReactor* reactor) {
-  std::erase(m_reactors, reactor);
-}
-
 // By the records, so that what the host keeps without understanding it takes the new name too.
 void AcDbDatabase::beforeRename(const AcDbObjectId& record, const CString& newName) {
   const auto& named = *static_cast<const AcDbSymbolTableRecord*>(record.object());
@@ -388,20 +385,6 @@ void AcDbDatabase::afterRename(const AcDbObjectId& record) {
 
 void AcDbDatabase::beforeChange(AcDbObject& object) {
   m_undo->recordBefore(object);
-}
-
-void AcDbDatabase::afterChange(AcDbObject& object) {
-  m_modified = true;
-  for (AcDbDatabaseReactor* reactor : std::vector(m_reactors)) reactor->objectModified(this, &object);
-}
-
-void AcDbDatabase::afterErase(AcDbObject& object, bool erased) {
-  m_modified = true;
-  for (AcDbDatabaseReactor* reactor : std::vector(m_reactors)) reactor->objectErased(this, &object, erased);
-}
-
-void AcDbDatabase::afterAppend(AcDbObject& object) {
-  for (AcDbDatabaseReactor* reactor : std::vector(m_reactors)) reactor->objectAppended(this, &object);
 }
 
 // Opening:

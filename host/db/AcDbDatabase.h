@@ -17,6 +17,7 @@
 class AcDbBlockTable;
 class AcDbBlockTableRecord;
 class AcDbDatabaseReactor;
+class AcDbObjectReactor;
 class AcDbDictionary;
 class AcDbIdMapping;
 class AcGeMatrix3d;
@@ -186,6 +187,23 @@ class AcDbDatabase {
   void afterChange(AcDbObject& object);
   void afterErase(AcDbObject& object, bool erased);
   void afterAppend(AcDbObject& object);
+  void beforeFirstChange(const AcDbObject& object);
+  void afterUnappend(AcDbObject& object, bool again);
+  void afterClose(const AcDbObject& object);
+  void beforeSettingChange(const CString& name);
+  void afterSettingChange(const CString& name, bool success);
+  void afterResurrection(const CString& application, const std::vector<AcDbObjectId>& objects);
+  using ObjectReactors = std::unordered_map<AcDbObjectId, std::vector<AcDbObjectReactor*>>;
+  ObjectReactors& objectReactors() { return m_objectReactors; }
+
+  // All that there are in the program.
+  static std::vector<AcDbDatabase*>& allDatabases();
+  // Objects of a class that goes are kept without being understood from now on; those that wait for a class
+  // that came become objects of it. Nobody may have one open. See acrxBuildClassHierarchy.
+  void withdrawClass(const AcRxClass& type);
+  void resurrectClasses();
+  // Files in the CLASSES of the drawing each custom class that it has objects of.
+  void completeClasses();
 
   // While a file is read, objects without a handle of the file's wait for one: they must not take a number
   // that stands further on in the file. endLoading gives them handles above all others.
@@ -205,6 +223,10 @@ class AcDbDatabase {
   template <typename Table> Acad::ErrorStatus openTable(Table*& table, AcDb::OpenMode mode);
   template <typename Table> AcDbObjectId tableId() const;
   void createTables();
+  void sayGoodbye();
+  template <typename Tell> void tell(Tell tellOne) const;
+  template <typename Tell> void tellOf(const AcDbObject& object, Tell tellOne) const;
+  void exchangeObject(AcDbStub& stub, std::unique_ptr<AcDbObject> made);
   bool isFresh() const;
 
   std::deque<AcDbStub> m_stubs;
@@ -219,6 +241,7 @@ class AcDbDatabase {
   CString m_fileName;
   std::unique_ptr<ExternalReferences> m_xrefs;
   std::vector<AcDbDatabaseReactor*> m_reactors;
+  ObjectReactors m_objectReactors;
   bool m_modified = false;
   bool m_loading = false;
 };

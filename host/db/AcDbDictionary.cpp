@@ -51,6 +51,30 @@ Acad::ErrorStatus AcDbDictionary::remove(const wchar_t* name) {
   return Acad::eOk;
 }
 
+bool AcDbDictionary::has(const wchar_t* name) const {
+  AcDbObjectId id;
+  return getAt(name, id) == Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbDictionary::nameAt(const AcDbObjectId& id, CString& name) const {
+  const Entry* entry = id.database() == database() ? entryOf(id.handle()) : nullptr;
+  if (!entry) return Acad::eKeyNotFound;
+  name = entry->name;
+  return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbDictionary::setName(const wchar_t* oldName, const wchar_t* newName) {
+  if (CString(newName).IsEmpty()) return Acad::eInvalidName;
+  const auto found = std::find_if(m_entries.begin(), m_entries.end(),
+                                  [&](const Entry& entry) { return entry.name.CompareNoCase(oldName) == 0; });
+  if (found == m_entries.end()) return Acad::eKeyNotFound;
+  if (found->name.CompareNoCase(newName) != 0 && has(newName)) return Acad::eDuplicateKey;
+  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
+  found->name = newName;
+  m_entriesChanged = true;
+  return Acad::eOk;
+}
+
 const AcDbDictionary::Entry* AcDbDictionary::entryOf(AcDbHandle handle) const {
   const auto found = std::find_if(m_entries.begin(), m_entries.end(),
                                   [&](const Entry& entry) { return entry.handle == handle; });

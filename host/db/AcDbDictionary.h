@@ -27,6 +27,11 @@ class AcDbDictionary : public AcDbObject {
   // Files a new object under the name, in place of what stood there (which is erased). The dictionary must be
   // open for write; the object stays open for write.
   Acad::ErrorStatus setAt(const wchar_t* name, AcDbObject* object, AcDbObjectId& id);
+  bool has(const wchar_t* name) const;
+  // The name under which an object stands here. eKeyNotFound.
+  Acad::ErrorStatus nameAt(const AcDbObjectId& id, CString& name) const;
+  // eKeyNotFound, eDuplicateKey, eInvalidName for an empty name.
+  Acad::ErrorStatus setName(const wchar_t* oldName, const wchar_t* newName);
   // Takes the entry away and erases its object.
   Acad::ErrorStatus remove(const wchar_t* name);
 

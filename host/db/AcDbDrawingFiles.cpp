@@ -47,5 +47,5 @@ Acad::ErrorStatus AcDbDatabase::saveAs(const wchar_t* fileName) {
 
 // Nothing was put into it since it was made without a default drawing.
 bool AcDbDatabase::isFresh() const {
-  return m_objects.empty() && m_byHandle.empty() && m_header->record().isEmpty() && m_form.sections.empty();
+  return m_objects.empty() && m_nextHandle == 1 && m_header->record().isEmpty() && m_form.sections.empty();
 }

@@ -190,6 +190,13 @@ AcDbObject* AcDbEntity::cloneInto(std::unique_ptr<AcDbObject> made) const {
   return object;
 }
 
+void AcDbEntity::takePlaceOf(AcDbObject& other) {
+  AcDbObject::takePlaceOf(other);
+  auto& entity = static_cast<AcDbEntity&>(other);
+  m_rank = entity.m_rank;
+  m_subEntities = std::move(entity.m_subEntities);
+}
+
 CString AcDbEntity::dxfName() const {
   const char* own = isA()->dxfName();
   return CString::FromUtf8(*own ? std::string_view(own) : rawRecord().type());

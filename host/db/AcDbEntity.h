@@ -78,6 +78,7 @@ class AcDbEntity : public AcDbObject {
   virtual CString dxfName() const;
 
   Acad::ErrorStatus erase(bool erasing = true) override;
+  void takePlaceOf(AcDbObject& other) override;
 
   // Entities that belong to this one and follow it in the file (attributes, vertices, the end mark).
   const std::vector<AcDbObjectId>& subEntities() const;

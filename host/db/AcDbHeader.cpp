@@ -1,5 +1,6 @@
 #include "host/db/AcDbHeader.h"
 
+#include "host/db/AcDbDatabase.h"
 #include "host/db/DxfRecordEditor.h"
 #include "host/db/DxfText.h"
 
@@ -37,9 +38,13 @@ std::optional<CString> AcDbHeader::text(std::string_view name) const {
 }
 
 Acad::ErrorStatus AcDbHeader::setVariable(std::string_view name, const std::string& newTags) {
-  if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
-  replaceRawRecord(DxfRecord::own(withVariable(rawRecord().text(), name, newTags)));
-  return Acad::eOk;
+  const CString told = CString::FromUtf8(name.substr(name.starts_with('$') ? 1 : 0));
+  if (database()) database()->beforeSettingChange(told);
+  const auto status = assertWriteEnabled();
+  if (status == Acad::eOk)
+    replaceRawRecord(DxfRecord::own(withVariable(rawRecord().text(), name, newTags)));
+  if (database()) database()->afterSettingChange(told, status == Acad::eOk);
+  return status;
 }
 
 std::string AcDbHeader::withVariable(std::string_view text, std::string_view name,

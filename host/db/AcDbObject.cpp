@@ -10,6 +10,8 @@
 #include "host/db/DxfText.h"
 #include "host/db/resbuf.h"
 
+#include <utility>
+
 ACRX_NO_CONS_DEFINE_MEMBERS(AcDbObject, AcRxObject)
 
 namespace {
@@ -55,7 +57,9 @@ Acad::ErrorStatus AcDbObject::close() {
   }
   if (m_writing) {
     m_writing = false;
-    if (m_changedWhileOpen) database()->afterChange(*this);
+    const bool changed = std::exchange(m_changedWhileOpen, false);
+    if (changed) database()->afterChange(*this);
+    database()->afterClose(*this);
     return Acad::eOk;
   }
   if (m_readers == 0) return Acad::eNotOpenForRead;
@@ -83,17 +87,29 @@ Acad::ErrorStatus AcDbObject::downgradeOpen() {
 
 Acad::ErrorStatus AcDbObject::assertWriteEnabled() {
   if (!isWriteEnabled()) return Acad::eNotOpenForWrite;
+  noteChange();
   m_fieldsChanged = true;
-  m_changedWhileOpen = true;
   m_implicit = false;
   return Acad::eOk;
+}
+
+void AcDbObject::noteChange() {
+  const bool isFirst = !std::exchange(m_changedWhileOpen, true);
+  if (isFirst && m_stub) database()->beforeFirstChange(*this);
+}
+
+void AcDbObject::takePlaceOf(AcDbObject& other) {
+  m_stub = other.m_stub;
+  m_owner = other.m_owner;
+  m_erased = other.m_erased;
+  m_implicit = other.m_implicit;
 }
 
 Acad::ErrorStatus AcDbObject::erase(bool erasing) {
   if (!isWriteEnabled()) return Acad::eNotOpenForWrite;
   if (m_erased == erasing) return Acad::eOk;
+  noteChange();
   m_erased = erasing;
-  m_changedWhileOpen = true;
   if (database()) database()->afterErase(*this, erasing);
   return Acad::eOk;
 }
@@ -160,7 +176,7 @@ void AcDbObject::setExtensionDictionary(const AcDbObjectId& dictionary) {
   editor.group("{ACAD_XDICTIONARY",
                dictionary ? DxfRecordEditor::tag(360, dictionary.handle().toHex()) : std::string());
   m_record = editor.finish();
-  m_changedWhileOpen = true;
+  noteChange();
   m_implicit = false;
 }
 
@@ -217,7 +233,7 @@ Acad::ErrorStatus AcDbObject::setXData(const resbuf* chain) {
   if (extendedDataSize(changed) > kMaxExtendedData && extendedDataSize(changed) > extendedDataSize(m_record))
     return Acad::eXdataSizeExceeded;
   m_record = std::move(changed);
-  m_changedWhileOpen = true;
+  noteChange();
   m_implicit = false;
   return Acad::eOk;
 }

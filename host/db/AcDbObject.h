@@ -13,6 +13,7 @@
 #include <string>
 #include <type_traits>
 
+class AcDbObjectReactor;
 class DxfDecodeContext;
 class DxfRecordEditor;
 struct resbuf;
@@ -68,6 +69,17 @@ class AcDbObject : public AcRxObject {
   // Null for a class that can't be made. Within a drawing: AcDbDatabase::deepCloneObjects.
   AcRxObject* clone() const;
 
+  // Reactors:
+
+  // eNullObjectPointer, eNoDatabase outside a drawing, eDuplicateKey for one that is there.
+  Acad::ErrorStatus addReactor(AcDbObjectReactor* reactor) const;
+  // eKeyNotFound for one that is not there.
+  Acad::ErrorStatus removeReactor(AcDbObjectReactor* reactor) const;
+  // Objects named in this one's record as depending on it. They are filed and not told of anything.
+  Acad::ErrorStatus addPersistentReactor(const AcDbObjectId& reactor);
+  Acad::ErrorStatus removePersistentReactor(const AcDbObjectId& reactor);
+  bool hasPersistentReactor(const AcDbObjectId& reactor) const;
+
   // Persistent form:
 
   // The record with
@@ -91,6 +103,8 @@ class AcDbObject : public AcRxObject {
   // What was just taken into the drawing is open for write, on a locked layer too.
   void openAsNew() { m_writing = true; }
   void setStub(AcDbStub* stub) { m_stub = stub; }
+  // Stands in the drawing where the other one stood, which is to be deleted.
+  virtual void takePlaceOf(AcDbObject& other);
   void setErasedFlag(bool erased) { m_erased = erased; }
 
  protected:
@@ -117,6 +131,9 @@ class AcDbObject : public AcRxObject {
   // The owner's and handle's tags that every record begins with.
   void dxfOutHead(DxfRecordEditor& editor, std::string_view type, int handleCode = 5) const;
   void writeOwner(DxfRecordEditor& editor, AcDbHandle owner) const;
+
+  // Tells of the first change while open, and notes that there was one.
+  void noteChange();
 
  private:
   AcDbStub* m_stub = nullptr;

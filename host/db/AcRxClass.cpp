@@ -1,3 +1,4 @@
+#include "host/db/AcDbDatabase.h"
 #include "host/db/AcRxObject.h"
 
 #include <map>
@@ -18,13 +19,17 @@ Registry& registry() {
 
 } // namespace
 
-AcRxClass::AcRxClass(const wchar_t* name, BaseGetter base, const char* dxfName, Creator creator)
-    : m_name(name), m_base(base), m_dxfName(dxfName), m_creator(creator) {
+AcRxClass::AcRxClass(const wchar_t* name, BaseGetter base, const char* dxfName, Creator creator,
+                     const char* application, int proxyFlags)
+    : m_name(name), m_base(base), m_dxfName(dxfName), m_creator(creator), m_application(application),
+      m_proxyFlags(proxyFlags) {
   registry().byName[name] = this;
   if (*dxfName) registry().byDxfName[dxfName] = this;
 }
 
 AcRxClass::~AcRxClass() {
+  if (isCustom())
+    for (AcDbDatabase* database : AcDbDatabase::allDatabases()) database->withdrawClass(*this);
   std::erase_if(registry().byName, [this](const auto& entry) { return entry.second == this; });
   std::erase_if(registry().byDxfName, [this](const auto& entry) { return entry.second == this; });
 }

@@ -12,13 +12,20 @@ class AcRxClass {
   using BaseGetter = AcRxClass* (*)();
 
   // dxfName is the record name in drawing files, empty for classes that have none.
-  AcRxClass(const wchar_t* name, BaseGetter base, const char* dxfName, Creator creator);
+  // application names the program that a class of a plug-in belongs to; null for the host's own classes.
+  AcRxClass(const wchar_t* name, BaseGetter base, const char* dxfName, Creator creator,
+            const char* application = nullptr, int proxyFlags = 0);
   ~AcRxClass();
   AcRxClass(const AcRxClass&) = delete;
   AcRxClass& operator=(const AcRxClass&) = delete;
 
   const wchar_t* name() const { return m_name; }
   const char* dxfName() const { return m_dxfName; }
+  // A class that other programs know only through CLASSES.
+  bool isCustom() const { return m_application != nullptr; }
+  const char* application() const { return m_application ? m_application : ""; }
+  // What other programs may do with objects of the class, as CLASSES counts it.
+  int proxyFlags() const { return m_proxyFlags; }
   AcRxClass* myParent() const { return m_base ? m_base() : nullptr; }
   bool isDerivedFrom(const AcRxClass* type) const;
   // A new object of the class, owned by the caller; null for classes that can't be made.
@@ -33,4 +40,11 @@ class AcRxClass {
   BaseGetter m_base;
   const char* m_dxfName;
   Creator m_creator;
+  const char* m_application;
+  int m_proxyFlags;
 };
+
+// To be called when a plug-in has registered its classes: objects that were kept without being understood,
+// because their class was missing, become objects of it, in all drawings. When a class goes, its objects are
+// kept so again by themselves.
+void acrxBuildClassHierarchy();

@@ -49,3 +49,15 @@ class AcRxObject {
   AcRxClass* CLASS::isA() const {                                                                            \
     return &s_class;                                                                                         \
   }
+
+// For the classes of a plug-in: APP is a text that names the plug-in for those who open the drawing without
+// it, PROXY_FLAGS says what they may do with its objects (0: nothing but erase).
+#define ACRX_DXF_CUSTOM_DEFINE_MEMBERS(CLASS, BASE, DXF_NAME, APP, PROXY_FLAGS)                              \
+  AcRxClass CLASS::s_class(                                                                                  \
+      L"" #CLASS, &BASE::desc, DXF_NAME, +[]() -> AcRxObject* { return new CLASS; }, APP, PROXY_FLAGS);      \
+  AcRxClass* CLASS::desc() {                                                                                 \
+    return &s_class;                                                                                         \
+  }                                                                                                          \
+  AcRxClass* CLASS::isA() const {                                                                            \
+    return &s_class;                                                                                         \
+  }

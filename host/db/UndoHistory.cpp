@@ -71,12 +71,12 @@ void UndoHistory::clear() {
 void UndoHistory::recordBefore(AcDbObject& object) {
   if (m_depth == 0 || !m_seen.insert(object.objectId()).second) return;
   m_current.changes.push_back(
-      {object.objectId(), object.record(), object.ownerId(), object.isErased(), object.isImplicit()});
+      {object.objectId(), object.record(), object.ownerId(), object.isErased(), object.isImplicit(), false});
 }
 
 void UndoHistory::recordAppended(AcDbObject& object) {
   if (m_depth == 0 || !m_seen.insert(object.objectId()).second) return;
-  m_current.changes.push_back({object.objectId(), std::nullopt, object.ownerId(), true, false});
+  m_current.changes.push_back({object.objectId(), std::nullopt, object.ownerId(), true, false, true});
 }
 
 // Brings back the state that the step holds and returns the state that was there.
@@ -86,7 +86,7 @@ UndoHistory::Step UndoHistory::exchange(const Step& step) {
   for (const Change& change : step.changes) {
     AcDbObject& object = *change.id.object();
     opposite.changes.push_back(
-        {change.id, object.record(), object.ownerId(), object.isErased(), object.isImplicit()});
+        {change.id, object.record(), object.ownerId(), object.isErased(), object.isImplicit(), change.appended});
   }
   // Erased flags first, so that names look up what is there afterwards.
   for (const Change& change : step.changes) {
@@ -107,7 +107,16 @@ UndoHistory::Step UndoHistory::exchange(const Step& step) {
       if (change.record && rankOf(object) == rank) object.setRecord(*change.record, context);
     }
   }
-  for (const Change& change : step.changes) m_database.afterChange(*change.id.object());
+  for (std::size_t i = 0; i < step.changes.size(); ++i) {
+    const Change& change = step.changes[i];
+    AcDbObject& object = *change.id.object();
+    const bool wasErased = opposite.changes[i].erased;
+    if (change.appended && wasErased != change.erased)
+      m_database.afterUnappend(object, !change.erased);
+    else if (wasErased != change.erased)
+      m_database.afterErase(object, change.erased);
+    m_database.afterChange(object);
+  }
   opposite.bytes = bytesOf(opposite);
   return opposite;
 }

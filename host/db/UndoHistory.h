@@ -48,6 +48,7 @@ class UndoHistory {
     AcDbObjectId owner;
     bool erased = false;
     bool implicit = false;
+    bool appended = false; // the step is what brought the object
   };
   struct Step {
     CString name;

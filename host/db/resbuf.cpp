@@ -79,6 +79,8 @@ std::string hexFromBinary(const ads_binary& chunk) {
   return hex;
 }
 
+constexpr int kMaxChunk = 127; // bytes
+
 // The second and third number of a point stand under its code plus 10 and plus 20.
 constexpr int kPointStep = 10;
 
@@ -219,7 +221,12 @@ std::string dxf::fromResbuf(const resbuf* chain) {
       tags += DxfRecordEditor::tag(code, std::to_string(rb->resval.mnInt64));
       break;
     case Storage::binary:
-      tags += DxfRecordEditor::tag(code, hexFromBinary(rb->resval.rbinary));
+      // A line of a file holds no more; what is longer goes on in the next tag of the code.
+      for (int at = 0; at == 0 || at < rb->resval.rbinary.clen; at += kMaxChunk) {
+        const int length = std::min<int>(kMaxChunk, rb->resval.rbinary.clen - at);
+        tags += DxfRecordEditor::tag(
+            code, hexFromBinary({static_cast<short>(length), rb->resval.rbinary.buf + at}));
+      }
       break;
     case Storage::none:
       break;

@@ -79,6 +79,7 @@ dxf::WriteReport dxf::WriteDrawing(AcDbDatabase& database, const CString& path, 
   WriteReport report;
   const WriteOptions wanted = completed(database, options);
   database.completeBlocks();
+  database.completeClasses();
   afx::AtomicFileWriter file(path);
   DrawingWriter writer(database, wanted, [&](std::string_view bytes) { return file.Write(bytes); });
   writer.write();
@@ -98,6 +99,7 @@ std::string dxf::WriteDrawingBytes(AcDbDatabase& database, std::vector<CString>*
                                    const WriteOptions& options) {
   const WriteOptions wanted = completed(database, options);
   database.completeBlocks();
+  database.completeClasses();
   std::string bytes;
   DrawingWriter writer(database, wanted, [&](std::string_view piece) {
     bytes += piece;
@@ -110,6 +112,7 @@ std::string dxf::WriteDrawingBytes(AcDbDatabase& database, std::vector<CString>*
 
 std::vector<CString> dxf::LossesInVersion(AcDbDatabase& database, const std::string& version) {
   database.completeBlocks();
+  database.completeClasses();
   const WriteOptions options{version, {}};
   DrawingWriter writer(database, options, [](std::string_view) { return true; });
   writer.write();

@@ -133,6 +133,7 @@ std::vector<DrawingForm::Section> dxf::DrawingWriter::sections() {
         return m_form.version >= "AC1015" || (!block->isLayout() && !block->entities().empty());
       }))
     need("BLOCKS");
+  if (!m_form.classes.empty() && m_form.subclassMarkers()) need("CLASSES");
   need("ENTITIES");
   const auto& objects = m_database.objects();
   if (m_form.subclassMarkers() &&
