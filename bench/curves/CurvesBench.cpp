@@ -1,49 +1,13 @@
 // All intersections among n random curves, each with each, as a drawing tool without an index would take
 // them. The floor is the same double loop over the boxes alone.
-#include <benchmark/benchmark.h>
-
-#include <cmath>
-#include <numbers>
-#include <random>
-#include <vector>
-
+#include "bench/curves/RandomCurves.h"
 #include "host/ge/CurveIntersection.h"
+
+#include <benchmark/benchmark.h>
 
 namespace {
 
-enum Kind { kLines, kArcs, kPolylines, kMixed };
-
-std::vector<ge::Curve> RandomCurves(int count, Kind kind) {
-  std::mt19937 random(7);
-  std::uniform_real_distribution<double> place(0.0, 100000.0); // millimetres: a hall of 100 m
-  std::uniform_real_distribution<double> step(-5000.0, 5000.0);
-  std::uniform_real_distribution<double> angle(0.0, 2.0 * std::numbers::pi);
-  std::uniform_real_distribution<double> bulge(-1.0, 1.0);
-  std::vector<ge::Curve> curves;
-  for (int i = 0; i < count; ++i) {
-    const AcGePoint3d from(place(random), place(random), 0);
-    const Kind own = kind == kMixed ? static_cast<Kind>(i % 3) : kind;
-    if (own == kLines) {
-      const double dx = step(random);
-      curves.push_back(ge::Curve::Line(from, from + AcGeVector3d(dx, step(random), 0)));
-    } else if (own == kArcs) {
-      const double start = angle(random);
-      const double radius = std::fabs(step(random));
-      curves.push_back(ge::Curve::Arc(from, AcGeVector3d::kZAxis, radius, start, angle(random)));
-    } else {
-      std::vector<ge::PolylineVertex> vertices{{{from.x, from.y}, bulge(random)}};
-      for (int v = 0; v < 5; ++v) {
-        const AcGePoint2d last = vertices.back().point;
-        const double dx = step(random) / 2;
-        vertices.push_back({{last.x + dx, last.y + step(random) / 2}, v % 2 ? bulge(random) : 0.0});
-      }
-      curves.push_back(ge::Curve::Polyline(vertices, false));
-    }
-  }
-  return curves;
-}
-
-void AllPairs(benchmark::State& state, Kind kind, ge::ExtendCurves extend) {
+void AllPairs(benchmark::State& state, CurveSort kind, ge::ExtendCurves extend) {
   const auto curves = RandomCurves(static_cast<int>(state.range(0)), kind);
   std::size_t points = 0;
   for (auto _ : state) {

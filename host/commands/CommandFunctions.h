@@ -5,6 +5,7 @@ namespace commands {
 
 void Appload();
 void Arc();
+void Audit();
 void Circle();
 void Clayer();
 void Close();
@@ -20,6 +21,7 @@ void New();
 void Open();
 void Pline();
 void Point();
+void Purge();
 void Quit();
 void Recover();
 void Redo();

@@ -47,6 +47,8 @@ constexpr Row kRows[] = {
     {L"SETVAR", L"SET", kDraws, SetVar, L"查看或设置系统变量"},
     {L"ZOOM", L"Z", kLooks, Zoom, L"缩放视图"},
     {L"REGEN", L"RE", kLooks, Regen, L"重新生成图形"},
+    {L"AUDIT", L"检查", kDraws, Audit, L"检查图形，更正错误"},
+    {L"PURGE", L"PU", kDraws, Purge, L"清理没有用到的块"},
     {L"U", L"放弃", kSession, U, L"放弃上一个命令"},
     {L"UNDO", L"多步放弃", kSession, Undo, L"放弃若干个命令"},
     {L"REDO", L"重做", kSession, Redo, L"重做刚放弃的命令"},

@@ -41,8 +41,7 @@ Acad::ErrorStatus AcDbHeader::setVariable(std::string_view name, const std::stri
   const CString told = CString::FromUtf8(name.substr(name.starts_with('$') ? 1 : 0));
   if (database()) database()->beforeSettingChange(told);
   const auto status = assertWriteEnabled();
-  if (status == Acad::eOk)
-    replaceRawRecord(DxfRecord::own(withVariable(rawRecord().text(), name, newTags)));
+  if (status == Acad::eOk) replaceRawRecord(DxfRecord::own(withVariable(rawRecord().text(), name, newTags)));
   if (database()) database()->afterSettingChange(told, status == Acad::eOk);
   return status;
 }

@@ -60,11 +60,12 @@ void AcDbDatabase::completeClasses() {
     ++count;
   }
   for (const auto& [name, use] : used) {
-    const bool isThere = std::any_of(m_form.classes.begin(), m_form.classes.end(), [&](const DxfRecord& record) {
-      for (const DxfTag& tag : record.tags())
-        if (tag.code == 1) return dxf::trimBlanks(tag.value) == name;
-      return false;
-    });
+    const bool isThere =
+        std::any_of(m_form.classes.begin(), m_form.classes.end(), [&](const DxfRecord& record) {
+          for (const DxfTag& tag : record.tags())
+            if (tag.code == 1) return dxf::trimBlanks(tag.value) == name;
+          return false;
+        });
     if (isThere) continue;
     const AcRxClass& type = *use.first;
     const auto tag = [](int code, std::string_view value) { return DxfRecordEditor::tag(code, value); };

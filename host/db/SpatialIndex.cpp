@@ -18,7 +18,8 @@ using Value = std::pair<Box, std::size_t>;
 constexpr std::size_t kNodeSize = 16;
 
 bool isBounded(const ge::Box2d& box) {
-  return std::isfinite(box.minX) && std::isfinite(box.minY) && std::isfinite(box.maxX) && std::isfinite(box.maxY);
+  return std::isfinite(box.minX) && std::isfinite(box.minY) && std::isfinite(box.maxX) &&
+         std::isfinite(box.maxY);
 }
 
 Box boxOf(const ge::Box2d& box) {
@@ -81,8 +82,8 @@ void SpatialIndex::visit(const ge::Box2d& box, const std::function<void(std::siz
   if (box.IsEmpty()) return;
   for (const Entry& entry : m_unbounded)
     if (entry.box.Overlaps(box)) visitor(entry.key);
-  m_tree->tree.query(bgi::intersects(boxOf(box)),
-                     boost::make_function_output_iterator([&](const Value& value) { visitor(value.second); }));
+  m_tree->tree.query(bgi::intersects(boxOf(box)), boost::make_function_output_iterator(
+                                                      [&](const Value& value) { visitor(value.second); }));
 }
 
 std::vector<std::size_t> SpatialIndex::overlapping(const ge::Box2d& box) const {

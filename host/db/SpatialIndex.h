@@ -1,5 +1,5 @@
-// Finds what lies at a place of the plane: boxes with a key each, searched by a box. An R-tree, filled at once
-// or changed as the drawing changes.
+// Finds what lies at a place of the plane: boxes with a key each, searched by a box. An R-tree, filled at
+// once or changed as the drawing changes.
 #pragma once
 
 #include "host/ge/Box2d.h"
@@ -30,7 +30,8 @@ class SpatialIndex {
   bool remove(const Entry& entry);
   std::size_t size() const;
 
-  // Calls visit with the key of each box that overlaps the given one, borders included, in no particular order.
+  // Calls visit with the key of each box that overlaps the given one, borders included, in no particular
+  // order.
   void visit(const ge::Box2d& box, const std::function<void(std::size_t)>& visitor) const;
   std::vector<std::size_t> overlapping(const ge::Box2d& box) const;
 

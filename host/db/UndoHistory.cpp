@@ -85,8 +85,8 @@ UndoHistory::Step UndoHistory::exchange(const Step& step) {
   opposite.changes.reserve(step.changes.size());
   for (const Change& change : step.changes) {
     AcDbObject& object = *change.id.object();
-    opposite.changes.push_back(
-        {change.id, object.record(), object.ownerId(), object.isErased(), object.isImplicit(), change.appended});
+    opposite.changes.push_back({change.id, object.record(), object.ownerId(), object.isErased(),
+                                object.isImplicit(), change.appended});
   }
   // Erased flags first, so that names look up what is there afterwards.
   for (const Change& change : step.changes) {

@@ -159,7 +159,8 @@ TEST_F(Reactors, PersistentOnesStandInTheRecord) {
   EXPECT_EQ(line->addPersistentReactor(watcher), Acad::eDuplicateKey);
   EXPECT_TRUE(line->hasPersistentReactor(watcher));
   const std::string text(line->record().text());
-  EXPECT_NE(text.find("102\n{ACAD_REACTORS\n330\n" + watcher.handle().toHex() + "\n102\n}\n"), text.npos) << text;
+  EXPECT_NE(text.find("102\n{ACAD_REACTORS\n330\n" + watcher.handle().toHex() + "\n102\n}\n"), text.npos)
+      << text;
   EXPECT_EQ(line->removePersistentReactor(watcher), Acad::eOk);
   EXPECT_EQ(line->removePersistentReactor(watcher), Acad::eKeyNotFound);
   EXPECT_EQ(line->record().text().find("ACAD_REACTORS"), std::string_view::npos);

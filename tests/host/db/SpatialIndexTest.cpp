@@ -1,5 +1,5 @@
-#include "host/db/CurveCrossings.h"
 #include "host/db/SpatialIndex.h"
+#include "host/db/CurveCrossings.h"
 #include "tests/host/ge/RandomCurves.h"
 
 #include <gtest/gtest.h>
@@ -133,7 +133,8 @@ TEST(CurveCrossings, InSpaceToo) {
 
 TEST(CurveCrossings, WhatIsNoCurveHasNone) {
   const ge::Curve curves[] = {ge::Curve::Line({kNaN, 0, 0}, {1, 0, 0}), ge::Curve::Polyline({}, false),
-                              ge::Curve::Line({0, 0, 0}, {1, 0, 0}), ge::Curve::Circle({0, 0, 0}, {0, 0, 1}, -1),
+                              ge::Curve::Line({0, 0, 0}, {1, 0, 0}),
+                              ge::Curve::Circle({0, 0, 0}, {0, 0, 1}, -1),
                               ge::Curve::Line({1, 0, 0}, {1, 0, 0})};
   const auto crossings = entity::allCrossings(curves);
   ASSERT_EQ(crossings.size(), 1u); // the point at the line's end
