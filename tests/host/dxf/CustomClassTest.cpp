@@ -64,7 +64,7 @@ class RoomClass {
 
 const std::string kRoom =
     "0 VKHVAC_SPACE\n5 A1\n100 AcDbEntity\n8 0\n100 VkDbHvacSpace\n10 7.0\n20 0.0\n30 0.0\n"
-    "40 1250.5\n 90 77\n1001 ACAD\n1000 x";
+    "40 1250.5\n90 77\n1001 ACAD\n1000 x";
 
 Room* roomAt(const AcDbObjectId& id) {
   return id.object()->isA() == Room::current() ? static_cast<Room*>(id.object()) : nullptr;
