@@ -23,6 +23,7 @@ std::optional<int> ParseOptions(int argc, const char* const* argv, Options& opti
   std::vector<std::string> plugIns;
   std::string script;
   std::string drawing;
+  std::string screenshot;
   app.get_formatter()->label("OPTIONS", "选项");
   app.get_formatter()->label("Usage", "用法");
   app.get_formatter()->label("Positionals", "参数");
@@ -35,6 +36,9 @@ std::optional<int> ParseOptions(int argc, const char* const* argv, Options& opti
       app.add_option("--data", data, "数据文件夹；默认为用户数据文件夹中的副本")->type_name("DIR");
   app.add_option("--plugin", plugIns, "要加载的插件，可多次给出")->type_name("FILE")->allow_extra_args(false);
   auto* scriptOption = app.add_option("--script", script, "从脚本文件取命令行")->type_name("FILE");
+  auto* screenshotOption =
+      app.add_option("--screenshot", screenshot, "脚本执行完后把窗口画面存为 PNG 文件并退出")
+          ->type_name("FILE");
   auto* drawingOption = app.add_option("DRAWING", drawing, "要打开的图形文件")->type_name("");
   try {
     app.parse(argc, argv);
@@ -43,6 +47,7 @@ std::optional<int> ParseOptions(int argc, const char* const* argv, Options& opti
     return console::kUnusable;
   }
   if (*dataOption) options.dataFolder = data;
+  if (*screenshotOption) options.screenshot = screenshot;
   if (*scriptOption) options.job.script = CString::FromUtf8(script);
   if (*drawingOption) options.job.drawing = CString::FromUtf8(drawing);
   for (const auto& plugIn : plugIns) options.job.plugIns.push_back(CString::FromUtf8(plugIn));

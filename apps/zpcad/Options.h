@@ -10,6 +10,7 @@ struct Options {
   bool console = false;
   std::optional<std::string> dataFolder;
   ConsoleJob job;
+  std::optional<std::string> screenshot; // of the window, in this file; the program ends then
 };
 
 // Fills in the options. Nothing when the program is to go on; the exit status when it is to end here, after

@@ -1,6 +1,7 @@
 // The program: options, folders, then one of the front ends.
 #include "apps/zpcad/DataFolder.h"
 #include "apps/zpcad/Options.h"
+#include "apps/zpcad/RunInWindow.h"
 
 #include "host/afx/Paths.h"
 #include "host/commands/HostCommands.h"
@@ -42,12 +43,9 @@ void addOwnPlugIn(Options& options) {
 int main(int argc, char** argv) {
   Options options;
   if (const auto status = ParseOptions(argc, argv, options)) return *status;
-  if (!options.console) {
-    std::cout << "这个程序没有桌面窗口。请用 zpcad --console 在终端中运行。\n";
-    return console::kUnusable;
-  }
   if (!setUpFolders(options)) return console::kUnusable;
   addOwnPlugIn(options);
   commands::RegisterHostCommands();
+  if (!options.console) return RunInWindow(options, programFolder(), argc, argv);
   return console::RunConsole(options.job, std::cin, std::cout, isatty(STDIN_FILENO) != 0);
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "host/afx/CString.h"
+#include "host/db/AcDbObjectId.h"
 #include "host/ed/EdKeywords.h"
 #include "host/ge/AcGePoint3d.h"
 
@@ -20,6 +21,8 @@ struct EdPromptState {
   CString keys;
   // Told where the cursor is, in world coordinates; empty where nobody follows it.
   std::function<void(const AcGePoint3d&)> follow;
+  // Of a selection: what has been selected so far.
+  const std::vector<AcDbObjectId>* selected = nullptr;
 };
 
 class EdPromptStates {

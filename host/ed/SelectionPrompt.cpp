@@ -122,6 +122,7 @@ SelectionAnswer AskSelection(const SelectionQuestion& question, const SelectionF
   CString prompt = question.prompt;
   prompt.TrimLeft(L"\n");
   EdPromptScope asking(session.prompts(), {EdPromptState::Wants::selection, prompt, {}, {}, {}, {}});
+  asking.state().selected = &answer.set.ids();
   while (true) {
     const auto line = session.input().read(prompt);
     if (!line) PrintInputEnd(prompt);

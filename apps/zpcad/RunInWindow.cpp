@@ -1,0 +1,38 @@
+#include "apps/zpcad/RunInWindow.h"
+
+#include "host/commands/HostCommands.h"
+#include "host/qt/DesktopProgram.h"
+
+#include <dlfcn.h>
+#include <iostream>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// Beside the program where it was built, in the folder of the libraries where it was installed.
+void* LoadDesktop(const fs::path& programFolder) {
+  constexpr const char* name = "libzp_qt.so";
+  for (const auto& folder : {programFolder, programFolder / "../lib/zppipemanager"})
+    if (std::error_code error; fs::exists(folder / name, error))
+      if (void* library = dlopen((folder / name).c_str(), RTLD_NOW | RTLD_GLOBAL)) return library;
+  return nullptr;
+}
+
+} // namespace
+
+int RunInWindow(const Options& options, const fs::path& programFolder, int argc, char** argv) {
+  void* library = LoadDesktop(programFolder);
+  const auto run = library ? reinterpret_cast<RunDesktopFunction>(dlsym(library, kRunDesktopName)) : nullptr;
+  if (!run) {
+    std::cout << "这个程序没有桌面窗口（没有安装 Qt 6）。请用 zpcad --console 在终端中运行。\n";
+    return desktop::kNoDisplay;
+  }
+  DesktopJob job;
+  job.plugIns = options.job.plugIns;
+  job.script = options.job.script;
+  job.drawing = options.job.drawing;
+  job.commandTitle = commands::Title;
+  if (options.screenshot) job.screenshot = CString::FromUtf8(*options.screenshot);
+  return run(&job, argc, argv);
+}

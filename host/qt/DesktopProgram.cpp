@@ -1,0 +1,113 @@
+#include "host/qt/DesktopProgram.h"
+
+#include "host/afx/AtomicFile.h"
+#include "host/afx/Paths.h"
+#include "host/ed/AcApDocManager.h"
+#include "host/ed/AcRxDynamicLinker.h"
+#include "host/ed/EdSession.h"
+#include "host/ed/acedCommand.h"
+#include "host/qt/DesktopFrontEnd.h"
+#include "host/qt/DisplayProbe.h"
+#include "host/qt/QtText.h"
+#include "host/qt/Theme.h"
+#include "host/qt/window/MainWindow.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QTimer>
+
+#include <iostream>
+#include <memory>
+
+namespace desktop {
+namespace {
+
+QString StateFolder(const DesktopJob& job) {
+  if (job.stateFolder) return QString::fromStdString(afx::NativePath(*job.stateFolder));
+  return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QStringLiteral("/zpcad");
+}
+
+// What stands between a session and the next one, also when it ends early.
+class SessionScope {
+ public:
+  explicit SessionScope(DesktopFrontEnd& frontEnd) {
+    EdSession::instance().reset();
+    EdSession::instance().setFrontEnd(&frontEnd);
+  }
+  ~SessionScope() {
+    acrxDynamicLinker->unloadAll();
+    acDocManager->clearPendingText();
+    acDocManager->closeAll();
+    EdSession::instance().reset();
+    EdSession::instance().setFrontEnd(nullptr);
+  }
+  SessionScope(const SessionScope&) = delete;
+  SessionScope& operator=(const SessionScope&) = delete;
+};
+
+bool PushScript(const CString& path, MainWindow& window) {
+  constexpr std::uint64_t largest = 64ull << 20;
+  std::string bytes;
+  const auto result = afx::ReadWholeFile(path, bytes, largest);
+  if (!result.ok) {
+    window.show(L"\n" + result.message + L"\n", DesktopView::Tone::refused);
+    return false;
+  }
+  EdSession::instance().input().push(std::make_unique<EdScriptSource>(path, std::move(bytes)));
+  return true;
+}
+
+int Run(const DesktopJob& job, QSettings& settings) {
+  CommandFeed feed;
+  CommandTitles titles(job.commandTitle);
+  MainWindow window(feed, titles, settings);
+  DesktopFrontEnd frontEnd(feed, window);
+  const SessionScope scope(frontEnd);
+  auto& session = EdSession::instance();
+  window.show();
+  acDocManager->newDocument();
+  for (const auto& plugIn : job.plugIns)
+    if (acrxDynamicLinker->loadModule(plugIn, true)) titles.addPlugIn(plugIn);
+  window.buildMenus();
+  int status = kDone;
+  if (job.drawing && acedCommandTexts({L"OPEN", *job.drawing}, false) != RTNORM) status = kUnusable;
+  if (job.script && !PushScript(*job.script, window)) status = kUnusable;
+  if (job.screenshot) {
+    feed.whenIdle([&] {
+      QApplication::processEvents();
+      if (!window.grab().save(QString::fromStdString(afx::NativePath(*job.screenshot)), "PNG")) {
+        std::cout << "不能写图片文件“" << job.screenshot->ToUtf8() << "”。\n";
+        status = kUnusable;
+      }
+      session.requestQuit();
+    });
+  }
+  session.run();
+  window.saveState();
+  return job.screenshot || session.quitRequested() ? (job.screenshot ? status : kDone) : status;
+}
+
+} // namespace
+
+int RunDesktop(const DesktopJob& job, int argc, char** argv) {
+  if (!HasDisplay()) {
+    std::cout << "没有可用的显示，不能打开窗口。请用 zpcad --console 在终端中运行。\n";
+    return kNoDisplay;
+  }
+  QApplication application(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("zpcad"));
+  QApplication::setQuitOnLastWindowClosed(false);
+  ApplyTheme(application);
+  const QString folder = StateFolder(job);
+  QDir().mkpath(folder);
+  QSettings settings(folder + QStringLiteral("/zpcad.ini"), QSettings::IniFormat);
+  return Run(job, settings);
+}
+
+} // namespace desktop
+
+extern "C" int ZpRunDesktop(const DesktopJob* job, int argc, char** argv) {
+  return desktop::RunDesktop(*job, argc, argv);
+}
