@@ -10,6 +10,7 @@
 #include "host/qt/DisplayProbe.h"
 #include "host/qt/QtText.h"
 #include "host/qt/Theme.h"
+#include "host/qt/dialogs/DesktopDialogs.h"
 #include "host/qt/window/MainWindow.h"
 
 #include <QApplication>
@@ -32,9 +33,10 @@ QString StateFolder(const DesktopJob& job) {
 // What stands between a session and the next one, also when it ends early.
 class SessionScope {
  public:
-  explicit SessionScope(DesktopFrontEnd& frontEnd) {
+  SessionScope(DesktopFrontEnd& frontEnd, UiFrontEnd& dialogs) {
     EdSession::instance().reset();
     EdSession::instance().setFrontEnd(&frontEnd);
+    UiFrontEnd::Set(&dialogs);
   }
   ~SessionScope() {
     acrxDynamicLinker->unloadAll();
@@ -42,6 +44,7 @@ class SessionScope {
     acDocManager->closeAll();
     EdSession::instance().reset();
     EdSession::instance().setFrontEnd(nullptr);
+    UiFrontEnd::Set(nullptr);
   }
   SessionScope(const SessionScope&) = delete;
   SessionScope& operator=(const SessionScope&) = delete;
@@ -64,7 +67,8 @@ int Run(const DesktopJob& job, QSettings& settings) {
   CommandTitles titles(job.commandTitle);
   MainWindow window(feed, titles, settings);
   DesktopFrontEnd frontEnd(feed, window);
-  const SessionScope scope(frontEnd);
+  DesktopDialogs dialogs(window, [&feed] { feed.wake(); });
+  const SessionScope scope(frontEnd, dialogs);
   auto& session = EdSession::instance();
   window.show();
   acDocManager->newDocument();

@@ -53,7 +53,7 @@ class Canvas : public QWidget {
   void selectNow(const std::vector<AcDbObjectId>& ids, bool takeAway);
   void moveCursor(const QPointF& at);
   AcGePoint3d worldAt(const QPointF& at) const;
-  void paintOverlay(class QPainter& painter);
+  void paintOverlay(QPainter& painter);
   void paintSelected(QPainter& painter);
   void paintRubber(QPainter& painter);
   void paintWindow(QPainter& painter);

@@ -1,12 +1,10 @@
 #include "host/qt/canvas/DrawingPicture.h"
 
 #include "host/db/AcDbDatabase.h"
-#include "host/db/AcDbEntity.h"
 #include "host/ed/AcApDocument.h"
 #include "host/ed/EntitySearch.h"
-#include "host/qt/canvas/WorldPainter.h"
-
-#include <QPainter>
+#include "host/qt/canvas/ScenePainter.h"
+#include "host/scene/BuildScene.h"
 
 #include <utility>
 
@@ -29,27 +27,33 @@ void DrawingPicture::invalidate() {
 }
 
 bool DrawingPicture::update() {
-  if (!m_document) return std::exchange(m_changed, false);
-  const auto& undo = m_document->database()->undo();
-  const bool undone = !undo.redoName().IsEmpty();
-  if (undo.commandCount() != std::exchange(m_commands, undo.commandCount()) ||
-      undone != std::exchange(m_undone, undone))
-    m_changed = true;
-  return std::exchange(m_changed, false);
+  if (m_document) {
+    const auto& undo = m_document->database()->undo();
+    const bool undone = !undo.redoName().IsEmpty();
+    if (undo.commandCount() != std::exchange(m_commands, undo.commandCount()) ||
+        undone != std::exchange(m_undone, undone))
+      m_changed = true;
+  }
+  if (!std::exchange(m_changed, false)) return false;
+  m_scene = {};
+  if (!m_document) return true;
+  const OutlineMetrics metrics(m_outlines);
+  scene::SceneOptions options;
+  options.metrics = &metrics;
+  auto& database = *m_document->database();
+  m_scene = scene::BuildScene(database, ed::CurrentSpace(database), options);
+  return true;
 }
 
 void DrawingPicture::paint(QPainter& painter, const ViewMap& map, const CanvasColors& colors) {
-  if (!m_document) return;
-  painter.setPen(QPen(colors.foreground, 0));
-  WorldPainter draw(painter, map, m_outlines);
-  for (const auto& id : ed::DrawnEntities(*m_document->database()))
-    if (const auto* entity = AcDbEntity::cast(id.object())) entity->worldDraw(draw);
+  ScenePainter(painter, m_scene, map, colors.background, m_outlines).paint();
 }
 
 std::vector<AcDbObjectId> DrawingPicture::entitiesNear(const ge::Box2d& box) const {
-  if (!m_document) return {};
-  constexpr bool crossing = true;
-  return ed::EntitiesInWindow(*m_document->database(), box, crossing);
+  std::vector<AcDbObjectId> near;
+  for (const scene::Group& group : m_scene.groups)
+    if (group.unbounded || group.box.Overlaps(box)) near.push_back(group.entity);
+  return near;
 }
 
 } // namespace desktop

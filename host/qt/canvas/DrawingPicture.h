@@ -6,6 +6,7 @@
 #include "host/qt/Theme.h"
 #include "host/qt/canvas/TextOutlines.h"
 #include "host/qt/canvas/ViewMap.h"
+#include "host/scene/Scene.h"
 
 #include <vector>
 
@@ -32,6 +33,7 @@ class DrawingPicture : private AcDbDatabaseReactor {
   void paint(QPainter& painter, const ViewMap& map, const CanvasColors& colors);
   // Those whose box overlaps this one, which may be more than what is there.
   std::vector<AcDbObjectId> entitiesNear(const ge::Box2d& box) const;
+  const scene::Scene& scene() const { return m_scene; }
   TextOutlines& outlines() { return m_outlines; }
 
  private:
@@ -41,6 +43,7 @@ class DrawingPicture : private AcDbDatabaseReactor {
 
   AcApDocument* m_document = nullptr;
   TextOutlines m_outlines;
+  scene::Scene m_scene;
   bool m_changed = true;
   std::size_t m_commands = 0; // of the undo history, which tells nobody what it brings back
   bool m_undone = false;

@@ -57,7 +57,7 @@ void WorldPainter::worldText(const AcGePoint3d& at, const AcGeVector3d& along, c
   }
   const QTransform matrix(along.x / width * height * k, -along.y / width * height * k, up.x * k, -up.y * k,
                           origin.x(), origin.y());
-  const QPainterPath path = matrix.map(m_outlines.of({}, false, false, Shown(text)));
+  const QPainterPath path = matrix.map(m_outlines.of({}, Shown(text)));
   m_painter.fillPath(path, m_painter.pen().color());
 }
 

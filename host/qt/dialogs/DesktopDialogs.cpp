@@ -1,0 +1,104 @@
+#include "host/qt/dialogs/DesktopDialogs.h"
+
+#include "host/ed/EdSession.h"
+#include "host/qt/dialogs/FormWindow.h"
+#include "host/qt/dialogs/MessageBoxes.h"
+#include "host/ui/CAcUiDockControlBar.h"
+#include "host/ui/CDialog.h"
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QMainWindow>
+
+namespace desktop {
+namespace {
+
+Qt::DockWidgetArea AreaOf(unsigned side) {
+  if (side & CAcUiDockControlBar::kDockRight) return Qt::RightDockWidgetArea;
+  if (side & CAcUiDockControlBar::kDockTop) return Qt::TopDockWidgetArea;
+  if (side & CAcUiDockControlBar::kDockBottom) return Qt::BottomDockWidgetArea;
+  return Qt::LeftDockWidgetArea;
+}
+
+Qt::DockWidgetAreas AreasOf(unsigned sides) {
+  Qt::DockWidgetAreas areas = Qt::NoDockWidgetArea;
+  for (const unsigned side : {CAcUiDockControlBar::kDockLeft, CAcUiDockControlBar::kDockRight,
+                              CAcUiDockControlBar::kDockTop, CAcUiDockControlBar::kDockBottom})
+    if (sides & side) areas |= AreaOf(side);
+  return areas;
+}
+
+// What an event asked for in the drawing is over; a pick given up there gives up no more than the event.
+void EndEvent() {
+  constexpr bool cancelled = false;
+  EdSession::instance().noteInput(cancelled);
+}
+
+} // namespace
+
+DesktopDialogs::~DesktopDialogs() {
+  for (const auto& [form, window] : m_dialogs) {
+    window->detach();
+    delete window;
+  }
+  for (const auto& [form, bar] : m_bars) {
+    bar->detach();
+    delete bar;
+  }
+}
+
+QWidget* DesktopDialogs::parent() const {
+  QWidget* active = QApplication::activeModalWidget();
+  return active ? active : &m_window;
+}
+
+void DesktopDialogs::RunModal(CDialog& dialog) {
+  QEventLoop loop;
+  DialogWindow window(dialog, parent(), EndEvent);
+  m_dialogs[&dialog] = &window;
+  window.setWindowModality(Qt::ApplicationModal);
+  window.ended = [&loop] { loop.quit(); };
+  window.follow();
+  window.show();
+  while (!dialog.HasEnded() && m_dialogs.contains(&dialog)) loop.exec();
+  m_dialogs.erase(&dialog);
+  window.detach();
+}
+
+void DesktopDialogs::ShowModeless(CFormWnd& form) {
+  if (auto* bar = dynamic_cast<CAcUiDockControlBar*>(&form)) {
+    DockBar*& shown = m_bars[&form];
+    if (!shown) {
+      shown = new DockBar(*bar, &m_window, m_afterEvent);
+      shown->setAllowedAreas(AreasOf(bar->DockingSides()));
+      m_window.addDockWidget(AreaOf(bar->DockedSide()), shown);
+      if (bar->DockedSide() == 0) shown->setFloating(true);
+    }
+    shown->follow();
+    return;
+  }
+  auto* dialog = dynamic_cast<CDialog*>(&form);
+  if (!dialog) return;
+  DialogWindow*& shown = m_dialogs[&form];
+  if (!shown) shown = new DialogWindow(*dialog, &m_window, m_afterEvent);
+  shown->show();
+  shown->follow();
+}
+
+// May be called from within an event of the window: it is deleted later.
+void DesktopDialogs::WindowGone(CFormWnd& form) {
+  if (const auto dialog = m_dialogs.extract(&form)) {
+    dialog.mapped()->detach();
+    if (dialog.mapped()->windowModality() == Qt::NonModal) dialog.mapped()->deleteLater();
+  }
+  if (const auto bar = m_bars.extract(&form)) {
+    bar.mapped()->detach();
+    bar.mapped()->deleteLater();
+  }
+}
+
+int DesktopDialogs::ShowMessageBox(const UiMessageBox& box) {
+  return ShowDialogBox(parent(), box);
+}
+
+} // namespace desktop

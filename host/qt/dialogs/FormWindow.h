@@ -1,0 +1,68 @@
+// A dialog or dock bar as a window: the form inside it, its title, focus, and how it goes.
+#pragma once
+
+#include "host/qt/dialogs/FormView.h"
+#include "host/ui/CFormWnd.h"
+
+#include <QDialog>
+#include <QDockWidget>
+
+class CAcUiDockControlBar;
+class CDialog;
+
+namespace desktop {
+
+// What both kinds of windows share: the form, and the state that the window itself shows.
+class FormHolder {
+ public:
+  FormHolder(CFormWnd& form, std::function<void()> afterEvent);
+  QWidget* widget() const { return m_view->widget(); }
+  CFormWnd& form() const { return m_form; }
+  // The control that has the keyboard in the form's own opinion.
+  void followFocus();
+
+ private:
+  CFormWnd& m_form;
+  FormContext m_context;
+  std::unique_ptr<FormView> m_view;
+  UiConnection m_focus;
+};
+
+class DialogWindow : public QDialog {
+ public:
+  // afterEvent is told of everything that the user does.
+  DialogWindow(CDialog& dialog, QWidget* parent, std::function<void()> afterEvent);
+  // Nothing of the dialog may be used any more.
+  void detach();
+  // Whoever waits for the end.
+  std::function<void()> ended;
+  void follow();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void reject() override {} // only by the dialog's own rules
+
+ private:
+  CDialog* m_dialog;
+  std::function<void()> m_afterEvent;
+  std::unique_ptr<FormHolder> m_holder;
+  UiConnection m_watch;
+};
+
+class DockBar : public QDockWidget {
+ public:
+  DockBar(CAcUiDockControlBar& bar, QWidget* parent, std::function<void()> afterEvent);
+  void detach();
+  void follow();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  CAcUiDockControlBar* m_bar;
+  std::unique_ptr<FormHolder> m_holder;
+  UiConnection m_watch;
+};
+
+} // namespace desktop

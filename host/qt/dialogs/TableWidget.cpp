@@ -1,0 +1,196 @@
+#include "host/qt/dialogs/TableWidget.h"
+
+#include "host/qt/dialogs/ContextMenu.h"
+#include "host/qt/dialogs/TableModel.h"
+
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace desktop {
+namespace {
+
+constexpr int kRowPadding = 10;
+constexpr int kMostHint = 420; // pixels of height that a table asks for
+
+} // namespace
+
+TableWidget::TableWidget(CTableWnd& table) : m_table(table), m_model(new TableModel(table, this)) {
+  setModel(m_model);
+  setEditTriggers(NoEditTriggers);
+  setSelectionMode(NoSelection);
+  setTabKeyNavigation(false);
+  setWordWrap(false);
+  setCornerButtonEnabled(false);
+  verticalHeader()->hide();
+  verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kRowPadding);
+  horizontalHeader()->setHighlightSections(false);
+  setHorizontalScrollMode(ScrollPerPixel);
+}
+
+void TableWidget::layOut() {
+  clearSpans();
+  horizontalHeader()->setVisible(m_table.HasColumnTitles());
+  for (int column = 0; column < m_table.GetColumnCount(); ++column) {
+    const int width = m_table.Column(column).width;
+    setColumnHidden(column, width <= 0);
+    if (width > 0) setColumnWidth(column, width);
+  }
+  for (int row = 0; row < m_table.GetRowCount(); ++row) {
+    const int height = m_table.Row(row).height;
+    setRowHeight(row, height > 0 ? height : verticalHeader()->defaultSectionSize());
+    for (int column = 0; column < m_table.GetColumnCount(); ++column) {
+      const UiCell& cell = m_table.Cell(row, column);
+      if (cell.spanRows > 1 || cell.spanColumns > 1) setSpan(row, column, cell.spanRows, cell.spanColumns);
+    }
+  }
+}
+
+QSize TableWidget::sizeHint() const {
+  int width = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
+  for (int column = 0; column < m_table.GetColumnCount(); ++column) width += m_table.Column(column).width;
+  int height =
+      2 * frameWidth() + 4 + (m_table.HasColumnTitles() ? horizontalHeader()->sizeHint().height() : 0);
+  for (int row = 0; row < m_table.GetRowCount() && height < kMostHint; ++row) height += rowHeight(row);
+  return {std::clamp(width, 160, 900), std::clamp(height, 120, kMostHint)};
+}
+
+void TableWidget::follow(const UiChange& change) {
+  switch (change.kind) {
+  case UiChange::Kind::look:
+    viewport()->update();
+    break;
+  case UiChange::Kind::content: {
+    const int x = horizontalScrollBar()->value();
+    const int y = verticalScrollBar()->value();
+    m_model->reset();
+    layOut();
+    updateGeometry();
+    horizontalScrollBar()->setValue(x);
+    verticalScrollBar()->setValue(y);
+    followEdit();
+    break;
+  }
+  case UiChange::Kind::row:
+    m_model->rowChanged(change.row);
+    break;
+  case UiChange::Kind::selection:
+    m_model->allChanged();
+    if (m_table.GetFocusRow() >= 0) scrollTo(m_model->index(m_table.GetFocusRow(), m_table.GetFocusColumn()));
+    break;
+  case UiChange::Kind::edit:
+    followEdit();
+    break;
+  }
+}
+
+QPoint TableWidget::cellAt(const QPoint& at) const {
+  const QModelIndex index = indexAt(at);
+  return index.isValid() ? QPoint(index.column(), index.row()) : QPoint(-1, -1);
+}
+
+void TableWidget::mousePressEvent(QMouseEvent* event) {
+  const QPoint cell = cellAt(event->position().toPoint());
+  if (cell.y() < 0 || event->button() != Qt::LeftButton) return;
+  auto pick = CTableWnd::Pick::only;
+  if (event->modifiers() & Qt::ControlModifier) pick = CTableWnd::Pick::toggle;
+  if (event->modifiers() & Qt::ShiftModifier) pick = CTableWnd::Pick::extend;
+  if (m_table.Row(cell.y()).fixed) return;
+  // A second click on the cell in focus opens its edit.
+  const bool again = pick == CTableWnd::Pick::only && m_table.GetFocusRow() == cell.y() &&
+                     m_table.GetFocusColumn() == cell.x() && m_table.CanEdit(cell.y(), cell.x());
+  obey([this, cell, pick, again] {
+    UiOutcome outcome = m_table.UserClick(cell.y(), cell.x(), pick);
+    if (!outcome || m_table.CurrentEdit() || !m_table.CanEdit(cell.y(), cell.x())) return outcome;
+    const bool list = m_table.Cell(cell.y(), cell.x()).choices != nullptr;
+    return again || list ? m_table.UserBeginEdit(cell.y(), cell.x()) : outcome;
+  });
+}
+
+void TableWidget::mouseDoubleClickEvent(QMouseEvent* event) {
+  const QPoint cell = cellAt(event->position().toPoint());
+  if (cell.y() < 0 || event->button() != Qt::LeftButton || m_table.Row(cell.y()).fixed) return;
+  obey([this, cell] {
+    UiOutcome outcome = m_table.UserDoubleClick(cell.y(), cell.x());
+    if (!outcome || m_table.CurrentEdit() || !m_table.CanEdit(cell.y(), cell.x())) return outcome;
+    return m_table.UserBeginEdit(cell.y(), cell.x());
+  });
+}
+
+void TableWidget::contextMenuEvent(QContextMenuEvent* event) {
+  if (!m_table.Menu.Exists()) return;
+  const QPoint cell = event->reason() == QContextMenuEvent::Keyboard
+                          ? QPoint(m_table.GetFocusColumn(), m_table.GetFocusRow())
+                          : cellAt(viewport()->mapFromGlobal(event->globalPos()));
+  obey([this, cell, at = event->globalPos()] {
+    UiOutcome outcome = m_table.UserOpenMenu(cell.y(), std::max(cell.x(), 0));
+    return outcome ? ShowContextMenu(m_table.Menu, at, this) : outcome;
+  });
+}
+
+void TableWidget::moveFocus(int rows, int columns) {
+  int row = m_table.GetFocusRow();
+  int column = m_table.GetFocusColumn();
+  if (row < 0) {
+    row = 0;
+    column = 0;
+    rows = columns = 0;
+    while (row < m_table.GetRowCount() && m_table.Row(row).fixed) ++row;
+  }
+  do row += rows;
+  while (rows != 0 && row >= 0 && row < m_table.GetRowCount() && m_table.Row(row).fixed);
+  do column += columns;
+  while (columns != 0 && column >= 0 && column < m_table.GetColumnCount() && isColumnHidden(column));
+  if (row < 0 || row >= m_table.GetRowCount() || column < 0 || column >= m_table.GetColumnCount()) return;
+  obey([this, row, column] { return m_table.UserClick(row, column); });
+}
+
+void TableWidget::keyPressEvent(QKeyEvent* event) {
+  const int row = m_table.GetFocusRow();
+  const int column = m_table.GetFocusColumn();
+  const bool editable = row >= 0 && m_table.CanEdit(row, column);
+  const auto begin = [this, row, column] { return m_table.UserBeginEdit(row, column); };
+  switch (event->key()) {
+  case Qt::Key_Up:
+    return moveFocus(-1, 0);
+  case Qt::Key_Down:
+    return moveFocus(1, 0);
+  case Qt::Key_Left:
+    return moveFocus(0, -1);
+  case Qt::Key_Right:
+    return moveFocus(0, 1);
+  case Qt::Key_F2:
+    if (editable) return obey(begin);
+    break;
+  case Qt::Key_Return:
+  case Qt::Key_Enter:
+    if (editable) return obey(begin);
+    break;
+  default:
+    break;
+  }
+  const QString typed = event->text();
+  const bool prints = !typed.isEmpty() && typed[0].isPrint() &&
+                      !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+  if (editable && prints) {
+    obey(begin);
+    if (m_line) {
+      m_line->selectAll();
+      m_line->insert(typed);
+      Q_EMIT m_line->textEdited(m_line->text());
+    }
+    return;
+  }
+  event->ignore(); // Enter and Escape are for the dialog
+}
+
+void TableWidget::updateGeometries() {
+  QTableView::updateGeometries();
+  placeEditor();
+}
+
+} // namespace desktop

@@ -1,0 +1,150 @@
+#include "host/db/AcDbCurves.h"
+#include "host/qt/window/CommandTitles.h"
+#include "host/qt/window/PromptMenu.h"
+#include "tests/host/qt/Desktop.h"
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+
+namespace {
+
+class Window : public Desktop {
+ protected:
+  // Presses the button of the message box that stands open.
+  static void press(const QString& caption) {
+    auto* box = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget());
+    ASSERT_TRUE(box);
+    for (QAbstractButton* button : box->buttons())
+      if (button->text().remove(QLatin1Char('&')).startsWith(caption))
+        return QTest::mouseClick(button, Qt::LeftButton);
+    FAIL() << "no button " << caption.toStdString();
+  }
+  static void pressLater(const QString& caption) {
+    QTimer::singleShot(50, [caption] { press(caption); });
+  }
+  QString layer() { return window->findChild<QLabel*>(QStringLiteral("layer"))->text(); }
+};
+
+TEST_F(Window, HasATabForEachDrawing) {
+  run({[&] { enter("new"); }, [&] {
+         EXPECT_EQ(2, window->tabs().count());
+         EXPECT_EQ(1, window->tabs().currentIndex());
+       }});
+}
+
+TEST_F(Window, ChangesTheDrawingByItsTabAndCancelsWhatRuns) {
+  const auto* first = curDoc();
+  run({[&] { enter("new"); }, [&] { enter("line"); }, [&] { enter("0,0"); },
+       [&] { QTest::mouseClick(&window->tabs(), Qt::LeftButton, {}, window->tabs().tabRect(0).center()); },
+       [&] {}, [&] {
+         EXPECT_EQ(first, curDoc());
+         EXPECT_EQ(0u, EdSession::instance().commandDepth());
+       }});
+}
+
+TEST_F(Window, TakesBackTheCommandsOfTheDrawingThatIsShown) {
+  auto* first = curDoc();
+  run({[&] { enter("point"); }, [&] { enter("1,1"); }, [&] { enter("new"); }, [&] { enter("point"); },
+       [&] { enter("2,2"); }, [&] { enter("u"); }});
+  EXPECT_EQ(0u, entityCount());
+  acDocManager->activateDocument(first);
+  EXPECT_EQ(1u, entityCount());
+}
+
+TEST_F(Window, MarksAChangedDrawingInItsTab) {
+  run({[&] { enter("point"); }, [&] { enter("1,1"); },
+       [&] { EXPECT_TRUE(window->tabs().tabText(0).endsWith(QLatin1Char('*'))); }});
+}
+
+TEST_F(Window, AsksBeforeAChangedDrawingIsLost) {
+  run({[&] { enter("point"); }, [&] { enter("1,1"); },
+       [&] {
+         pressLater(QStringLiteral("取消"));
+         window->close();
+       },
+       [&] {}, [&] {}});
+  EXPECT_TRUE(window->isVisible());
+  EXPECT_FALSE(EdSession::instance().quitRequested());
+  EXPECT_TRUE(curDoc()->database()->isModified());
+}
+
+TEST_F(Window, EndsWithoutSavingWhereThatIsWanted) {
+  run({[&] { enter("point"); }, [&] { enter("1,1"); },
+       [&] {
+         pressLater(QStringLiteral("不保存"));
+         window->close();
+       },
+       [&] {}, [&] {}});
+  EXPECT_TRUE(EdSession::instance().quitRequested());
+}
+
+TEST_F(Window, ShowsCoordinatesAndTheCurrentLayer) {
+  look(50, 50, 200);
+  run({[&] { hover(10, 20); }, [&] {
+         const QString text = window->findChild<QLabel*>(QStringLiteral("coordinates"))->text();
+         const QStringList parts = text.split(QLatin1Char(','));
+         ASSERT_EQ(2, parts.size());
+         EXPECT_NEAR(10, parts[0].toDouble(), 0.5);
+         EXPECT_NEAR(20, parts[1].toDouble(), 0.5);
+       },
+       [&] { EXPECT_EQ(QStringLiteral("图层：0"), layer()); }, [&] { enter("layer"); }, [&] { enter("m"); },
+       [&] { enter("采暖供水"); }, [&] { key(Qt::Key_Return); },
+       [&] { EXPECT_EQ(QStringLiteral("图层：采暖供水"), layer()); }});
+}
+
+TEST_F(Window, RunsACommandOfItsMenus) {
+  QAction* found = nullptr;
+  for (QAction* menu : window->menuBar()->actions())
+    for (QAction* action : menu->menu()->actions())
+      if (action->statusTip() == QStringLiteral("POINT")) found = action;
+  ASSERT_TRUE(found);
+  EXPECT_EQ(QStringLiteral("画点"), found->text());
+  run({[&] { found->trigger(); }, [&] { enter("4,5"); }});
+  EXPECT_EQ(1u, entityCount());
+}
+
+TEST_F(Window, OpensADrawingOfTheRecentOnes) {
+  const QString file = folder.filePath(QStringLiteral("a.dxf"));
+  run({[&] { enter("point"); }, [&] { enter("1,1"); },
+       [&] { acedCommandTexts({L"SAVEAS", desktop::FromQt(file)}); }, [&] { enter("close"); },
+       [&] {
+         auto* recent = window->findChild<QMenu*>(QStringLiteral("recentFiles"));
+         ASSERT_EQ(1, recent->actions().size());
+         recent->actions().first()->trigger();
+       },
+       [&] {}, [&] {
+         ASSERT_TRUE(curDoc());
+         EXPECT_EQ(CString(L"a.dxf"), curDoc()->docTitle());
+       }});
+}
+
+TEST_F(Window, TurnsSnapAndOrthoOnAndOffByKeys) {
+  const long before = SystemVariables::integer(L"OSMODE");
+  run({[&] { key(Qt::Key_F3); }, [&] { EXPECT_NE(before, SystemVariables::integer(L"OSMODE")); },
+       [&] { key(Qt::Key_F3); }, [&] { key(Qt::Key_F8); }});
+  EXPECT_EQ(before, SystemVariables::integer(L"OSMODE"));
+  EXPECT_EQ(1, SystemVariables::integer(L"ORTHOMODE"));
+}
+
+TEST(MenuFile, HoldsMenusWithCommandsAndTitles) {
+  const auto groups = desktop::ParseMenuFile("# remark\n[管道]\nA_B 管 径\r\n\n[]\nnothing\nX\tY\n");
+  ASSERT_EQ(2u, groups.size());
+  EXPECT_EQ(CString(L"管道"), groups[0].title);
+  ASSERT_EQ(1u, groups[0].entries.size());
+  EXPECT_EQ(CString(L"A_B"), groups[0].entries[0].command);
+  EXPECT_EQ(CString(L"管 径"), groups[0].entries[0].title);
+  ASSERT_EQ(1u, groups[1].entries.size());
+}
+
+TEST(PromptOptions, AreTheWordsInTheBracketsOfAPrompt) {
+  const auto options = desktop::PromptOptions(L"下一点或 [闭合(C)/放弃(U)]:");
+  ASSERT_EQ(2u, options.size());
+  EXPECT_EQ(CString(L"闭合(C)"), options[0].title);
+  EXPECT_EQ(CString(L"U"), options[1].keyword);
+  EXPECT_TRUE(desktop::PromptOptions(L"指定点:").empty());
+}
+
+} // namespace
