@@ -2,6 +2,7 @@
 
 #include "host/afx/AtomicFile.h"
 #include "host/afx/Paths.h"
+#include "host/commands/AskFileName.h"
 #include "host/commands/FileVersionPrompt.h"
 #include "host/db/AcDbBlockTable.h"
 #include "host/db/AcDbLayerTable.h"
@@ -147,6 +148,10 @@ bool SaveDrawing(AcApDocument& document) {
 }
 
 bool SaveDrawingAs(AcApDocument& document) {
+  if (HasFileChooser()) {
+    const auto name = AskFileName({L"输入文件名:", L"另存为", {L"*.dxf"}, {}, true});
+    return name && saveUnder(document, withExtension(*name));
+  }
   DrawingForm& form = document.database()->form();
   const std::string before = form.saveVersion;
   ed::Answer answer;

@@ -2,6 +2,7 @@
 #include "host/afx/AtomicFile.h"
 #include "host/afx/Numbers.h"
 #include "host/afx/Paths.h"
+#include "host/commands/AskFileName.h"
 #include "host/commands/CommandFunctions.h"
 #include "host/commands/DrawingDate.h"
 #include "host/commands/DrawingFiles.h"
@@ -43,9 +44,13 @@ CString defaultName(const AcApDocument& document) {
 
 bool askFile(const AcApDocument& document, Job& job) {
   const CString usual = defaultName(document);
-  const auto answer = ed::AskText({L"输入文件名（以 .pdf、.svg 或 .png 结尾） <" + usual + L">:", {}, 0, {}});
-  if (answer.isCancelled()) return false;
-  job.path = CString(answer.text).Trim();
+  const auto name = AskFileName({L"输入文件名（以 .pdf、.svg 或 .png 结尾） <" + usual + L">:",
+                                 L"输出",
+                                 {L"*.pdf", L"*.svg", L"*.png"},
+                                 usual,
+                                 true});
+  if (!name) return false;
+  job.path = *name;
   if (job.path.IsEmpty()) job.path = usual;
   const auto format = plot::FormatOf(job.path);
   if (!format) {

@@ -59,6 +59,9 @@ class EdFrontEnd {
   // Takes a line at the command prompt that is for the front end's own windows and no command. Whether it
   // did.
   virtual bool takeLine(const CString&) { return false; }
+  // Whether a person works in windows here: files are chosen in a dialog then, and unsaved work is asked
+  // about drawing by drawing.
+  virtual bool hasWindows() { return false; }
   // Null where there are no windows.
   virtual CWnd* mainWindow() { return nullptr; }
   virtual CWnd* drawingView() { return nullptr; }

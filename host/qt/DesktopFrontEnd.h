@@ -39,6 +39,7 @@ class DesktopFrontEnd : public EdFrontEnd {
   void viewChanged(AcApDocument&) override { m_view.viewMoved(); }
   std::optional<double> viewAspect() override { return m_view.aspect(); }
   void transientsChanged() override { m_view.redrawOverlay(); }
+  bool hasWindows() override { return true; }
   CWnd* mainWindow() override { return m_view.frame(); }
   CWnd* drawingView() override { return m_view.drawingWindow(); }
   std::optional<double> pickAperture() override { return m_view.pickAperture(); }

@@ -11,6 +11,7 @@
 #include "host/qt/QtText.h"
 #include "host/qt/Theme.h"
 #include "host/qt/dialogs/DesktopDialogs.h"
+#include "host/qt/window/Autosave.h"
 #include "host/qt/window/MainWindow.h"
 
 #include <QApplication>
@@ -62,7 +63,27 @@ bool PushScript(const CString& path, MainWindow& window) {
   return true;
 }
 
-int Run(const DesktopJob& job, QSettings& settings) {
+// What a run that ended early has left.
+void OfferLeft(Autosave& autosave, MainWindow& window) {
+  const auto left = autosave.takeLeft();
+  if (left.empty()) return;
+  CString text = L"上次运行没有正常结束。下列图形的修改可以恢复，要打开吗？\n";
+  for (const auto& drawing : left) text += L"\n" + drawing.title;
+  if (window.ask({L"zpcad", text, {L"打开(O)", L"不打开(N)"}, 0}).button != 0) {
+    window.show(L"\n没有打开的副本留在 " + FromQt(left.front().file) + L" 所在的文件夹中。\n",
+                DesktopView::Tone::said);
+    return;
+  }
+  // The copies go only when the drawings stand in this run's own.
+  bool opened = true;
+  for (const auto& drawing : left) opened &= Autosave::open(drawing);
+  if (opened && autosave.save()) autosave.discard(left);
+}
+
+constexpr int kAutosaveEvery = 3 * 60 * 1000; // milliseconds
+constexpr int kAutosaveAgain = 10 * 1000;     // while a command runs
+
+int Run(const DesktopJob& job, QSettings& settings, const QString& folder) {
   CommandFeed feed;
   CommandTitles titles(job.commandTitle);
   MainWindow window(feed, titles, settings);
@@ -78,6 +99,12 @@ int Run(const DesktopJob& job, QSettings& settings) {
   int status = kDone;
   if (job.drawing && acedCommandTexts({L"OPEN", *job.drawing}, false) != RTNORM) status = kUnusable;
   if (job.script && !PushScript(*job.script, window)) status = kUnusable;
+  Autosave autosave(folder + QStringLiteral("/autosave"));
+  QTimer autosaveTimer;
+  QObject::connect(&autosaveTimer, &QTimer::timeout,
+                   [&] { autosaveTimer.start(autosave.save() ? kAutosaveEvery : kAutosaveAgain); });
+  autosaveTimer.start(kAutosaveEvery);
+  if (!job.screenshot && !job.script) feed.whenIdle([&] { OfferLeft(autosave, window); });
   if (job.screenshot) {
     feed.whenIdle([&] {
       QApplication::processEvents();
@@ -90,7 +117,7 @@ int Run(const DesktopJob& job, QSettings& settings) {
   }
   session.run();
   window.saveState();
-  return job.screenshot || session.quitRequested() ? (job.screenshot ? status : kDone) : status;
+  return job.screenshot ? status : kDone;
 }
 
 } // namespace
@@ -107,7 +134,7 @@ int RunDesktop(const DesktopJob& job, int argc, char** argv) {
   const QString folder = StateFolder(job);
   QDir().mkpath(folder);
   QSettings settings(folder + QStringLiteral("/zpcad.ini"), QSettings::IniFormat);
-  return Run(job, settings);
+  return Run(job, settings, folder);
 }
 
 } // namespace desktop

@@ -1,7 +1,7 @@
 // Fields of text and numbers, drop-down lists and lists.
 #include "host/qt/QtText.h"
 #include "host/qt/dialogs/ControlViews.h"
-#include "host/qt/dialogs/LeaveWatch.h"
+#include "host/qt/dialogs/FieldWatch.h"
 #include "host/ui/CComboBox.h"
 #include "host/ui/CListBox.h"
 #include "host/ui/CNumberEdit.h"

@@ -1,7 +1,7 @@
 // Lists of named values in groups: each value has a field of its kind beside its name.
 #include "host/qt/QtText.h"
 #include "host/qt/dialogs/ControlViews.h"
-#include "host/qt/dialogs/LeaveWatch.h"
+#include "host/qt/dialogs/FieldWatch.h"
 #include "host/ui/CPropTree.h"
 
 #include <QBoxLayout>
@@ -108,13 +108,20 @@ class PropTreeView : public ControlView {
     return line;
   }
   // A value counts when the user is done with it: Enter, or going on to something else. Escape gives it up.
+  // Neither key then reaches the dialog.
   void finishLine(QLineEdit& line, int number) {
-    const auto finish = [this, &line, number] {
-      if (number < m_tree.GetItemCount() && ToQt(m_tree.Item(number).text) != line.text())
-        choose(number, FromQt(line.text()));
+    const auto shown = [this, number] {
+      return number < m_tree.GetItemCount() ? ToQt(m_tree.Item(number).text) : QString();
     };
-    QObject::connect(&line, &QLineEdit::returnPressed, finish);
+    const auto finish = [this, &line, number, shown] {
+      if (number < m_tree.GetItemCount() && shown() != line.text()) choose(number, FromQt(line.text()));
+    };
     OnLeave(line, finish);
+    OnEditKeys(line, finish, [&line, shown] {
+      if (line.text() == shown()) return false;
+      line.setText(shown());
+      return true;
+    });
   }
 
   void build() {

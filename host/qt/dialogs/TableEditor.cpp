@@ -90,6 +90,7 @@ void TableWidget::dropEditor() {
   m_editRow = m_editColumn = -1;
   editor->removeEventFilter(this);
   const bool hadFocus = editor->hasFocus() || editor->isAncestorOf(focusWidget());
+  editor->setObjectName(QString());
   editor->disconnect(this);
   editor->hide();
   editor->deleteLater(); // this may be an event of its own

@@ -12,6 +12,7 @@
 #include <QStandardItemModel>
 
 #include <algorithm>
+#include <vector>
 
 namespace desktop {
 namespace {
@@ -29,12 +30,16 @@ CommandEdit::CommandEdit(CommandFeed& feed, const CommandTitles& titles, QWidget
     : QLineEdit(parent), m_feed(feed), m_titles(titles), m_completion(new QStandardItemModel(this)) {
   setObjectName(QStringLiteral("commandEdit"));
   setFrame(false);
-  auto* completer = new QCompleter(m_completion, this);
-  completer->setCompletionRole(kNameRole);
-  completer->setCaseSensitivity(Qt::CaseInsensitive);
-  completer->setMaxVisibleItems(12);
-  setCompleter(completer);
-  connect(completer, QOverload<const QString&>::of(&QCompleter::activated), this, [this] { submit(); });
+  // Not a child of the line, which would delete it each time it is taken away.
+  m_completer = new QCompleter(m_completion, m_completion);
+  m_completer->setCompletionRole(kNameRole);
+  m_completer->setCaseSensitivity(Qt::CaseInsensitive);
+  m_completer->setMaxVisibleItems(12);
+  connect(m_completer, QOverload<const QString&>::of(&QCompleter::activated), this,
+          [this](const QString& name) {
+            setText(name);
+            submit();
+          });
 }
 
 void CommandEdit::fillCompletion() {
@@ -44,11 +49,14 @@ void CommandEdit::fillCompletion() {
   m_completion->clear();
   for (const auto& command : commands) {
     const CString title = m_titles.title(command->globalName());
-    for (const CString& name : {command->globalName(), command->localName()}) {
-      if (&name != &command->globalName() && name == command->globalName()) continue;
-      auto* item = new QStandardItem(ToQt(name + (title.IsEmpty() ? CString() : L"    " + title)));
+    std::vector<CString> names{command->globalName()};
+    if (command->localName() != command->globalName()) names.push_back(command->localName());
+    for (const CString& name : names) {
+      const QString shown = ToQt(name + (title.IsEmpty() ? CString() : L"    " + title));
+      if (!m_completion->findItems(shown).isEmpty()) continue; // of another group
+      auto* item = new QStandardItem(shown);
       item->setData(ToQt(name), kNameRole);
-      if (m_completion->findItems(item->text()).isEmpty()) m_completion->appendRow(item);
+      m_completion->appendRow(item);
     }
   }
   m_completion->sort(0);
@@ -57,14 +65,12 @@ void CommandEdit::fillCompletion() {
 void CommandEdit::promptOpened() {
   fillCompletion();
   const bool commandWanted = prompt().wants == EdPromptState::Wants::command;
-  completer()->setCompletionMode(commandWanted ? QCompleter::PopupCompletion : QCompleter::InlineCompletion);
-  completer()->setModel(commandWanted ? m_completion : nullptr);
-  if (commandWanted) completer()->setCompletionRole(kNameRole);
-  completer()->popup()->hide();
+  m_completer->popup()->hide();
+  if (commandWanted != (completer() != nullptr)) setCompleter(commandWanted ? m_completer : nullptr);
 }
 
 void CommandEdit::submit() {
-  completer()->popup()->hide();
+  m_completer->popup()->hide();
   const QString line = text();
   clear();
   if (!line.isEmpty()) {
@@ -96,7 +102,7 @@ void CommandEdit::keyPressEvent(QKeyEvent* event) {
     submit();
     return;
   case Qt::Key_Escape:
-    completer()->popup()->hide();
+    m_completer->popup()->hide();
     clear();
     m_recalled = m_history.size();
     m_feed.cancel();
@@ -123,8 +129,8 @@ void CommandEdit::keyPressEvent(QKeyEvent* event) {
 bool CommandEdit::event(QEvent* event) {
   if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Tab &&
       !text().isEmpty() && prompt().wants == EdPromptState::Wants::command) {
-    completer()->setCompletionPrefix(text());
-    if (const QString found = completer()->currentCompletion(); !found.isEmpty()) setText(found);
+    m_completer->setCompletionPrefix(text());
+    if (const QString found = m_completer->currentCompletion(); !found.isEmpty()) setText(found);
     return true;
   }
   return QLineEdit::event(event);

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QStringList>
 
+class QCompleter;
 class QStandardItemModel;
 
 namespace desktop {
@@ -21,6 +22,7 @@ class CommandEdit : public QLineEdit {
   void promptOpened();
   // Submits the text.
   void submit();
+  QCompleter& completion() { return *m_completer; }
   // A key that some other part of the window has got.
   void takeKey(QKeyEvent* event) { keyPressEvent(event); }
 
@@ -35,6 +37,7 @@ class CommandEdit : public QLineEdit {
   CommandFeed& m_feed;
   const CommandTitles& m_titles;
   QStandardItemModel* m_completion;
+  QCompleter* m_completer;
   QStringList m_history;
   qsizetype m_recalled = 0; // index in the history; its size stands for the new line
   QString m_draft;          // the new line while older ones are shown

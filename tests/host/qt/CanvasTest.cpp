@@ -56,8 +56,8 @@ TEST_F(CanvasOf, ADrawingSnapsToEndsMiddlesAndIntersections) {
   SystemVariables::set(L"OSMODE", ed::kSnapEnd | ed::kSnapMiddle | ed::kSnapIntersection);
   addLine({0, 0, 0}, {100.125, 0.0625, 0});
   addLine({30, -20, 0}, {30, 40, 0});
-  run({[&] { enter("line"); }, [&] { click(99.5, 0.5); }, [&] { click(50.5, 0.3); }, [&] { click(30.4, 0.4); },
-       [&] { key(Qt::Key_Return); }});
+  run({[&] { enter("line"); }, [&] { click(99.5, 0.5); }, [&] { click(50.5, 0.3); },
+       [&] { click(30.4, 0.4); }, [&] { key(Qt::Key_Return); }});
   const auto* line = last<AcDbLine>();
   ASSERT_TRUE(line);
   EXPECT_EQ(AcGePoint3d(50.0625, 0.03125, 0), line->startPoint());

@@ -55,8 +55,9 @@ TEST_F(CommandLine, CompletesCommandsWithTheirChineseTitles) {
   QString taken;
   run({[&] { type("lin"); },
        [&] {
-         const auto* model = edit().completer()->popup()->model();
-         for (int row = 0; row < model->rowCount(); ++row) shown.append(model->index(row, 0).data().toString());
+         const auto* model = edit().completion().popup()->model();
+         for (int row = 0; row < model->rowCount(); ++row)
+           shown.append(model->index(row, 0).data().toString());
        },
        [&] { key(Qt::Key_Tab); }, [&] { taken = edit().text(); }});
   ASSERT_FALSE(shown.isEmpty());
@@ -70,7 +71,8 @@ TEST_F(CommandLine, TellsWhyALineIsRefused) {
 }
 
 TEST_F(CommandLine, TakesKeysThatWereTypedInTheCanvas) {
-  run({[&] { QTest::keyClicks(&canvas(), QStringLiteral("point")); }, [&] { EXPECT_EQ(QStringLiteral("point"), edit().text()); }});
+  run({[&] { QTest::keyClicks(&canvas(), QStringLiteral("point")); },
+       [&] { EXPECT_EQ(QStringLiteral("point"), edit().text()); }});
 }
 
 TEST_F(CommandLine, EndsWithQuit) {

@@ -11,12 +11,22 @@ QApplication& TestApplication() {
   static char* argv[] = {name, nullptr};
   static QApplication* application = [] {
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
-    setenv("XDG_RUNTIME_DIR", "/tmp", 0);
     auto* made = new QApplication(argc, argv);
     desktop::ApplyTheme(*made);
     return made;
   }();
   return *application;
+}
+
+void TypeText(QWidget* widget, const QString& text) {
+  for (const QChar c : text) {
+    if (c.unicode() < 0x80) {
+      QTest::keyClick(widget, c.toLatin1());
+      continue;
+    }
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString(c));
+    QApplication::sendEvent(widget, &press);
+  }
 }
 
 Desktop::Desktop()

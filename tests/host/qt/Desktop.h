@@ -28,6 +28,9 @@
 // The one application of all tests, offscreen.
 QApplication& TestApplication();
 
+// Types a text of any script.
+void TypeText(QWidget* widget, const QString& text);
+
 // What the user does, step by step, while the editor waits.
 class Desktop : public ::testing::Test {
  protected:
@@ -37,7 +40,7 @@ class Desktop : public ::testing::Test {
   // Runs the editor; each step is done when the window has come to rest after the one before. Then it ends.
   void run(std::vector<std::function<void()>> steps);
 
-  void type(const char* text) { QTest::keyClicks(&edit(), QString::fromUtf8(text)); }
+  void type(const char* text) { TypeText(&edit(), QString::fromUtf8(text)); }
   void key(Qt::Key key) { QTest::keyClick(&edit(), key); }
   void enter(const char* text) {
     type(text);

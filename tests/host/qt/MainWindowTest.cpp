@@ -29,7 +29,8 @@ class Window : public Desktop {
 };
 
 TEST_F(Window, HasATabForEachDrawing) {
-  run({[&] { enter("new"); }, [&] {
+  run({[&] { enter("new"); },
+       [&] {
          EXPECT_EQ(2, window->tabs().count());
          EXPECT_EQ(1, window->tabs().currentIndex());
        }});
@@ -39,7 +40,8 @@ TEST_F(Window, ChangesTheDrawingByItsTabAndCancelsWhatRuns) {
   const auto* first = curDoc();
   run({[&] { enter("new"); }, [&] { enter("line"); }, [&] { enter("0,0"); },
        [&] { QTest::mouseClick(&window->tabs(), Qt::LeftButton, {}, window->tabs().tabRect(0).center()); },
-       [&] {}, [&] {
+       [&] {},
+       [&] {
          EXPECT_EQ(first, curDoc());
          EXPECT_EQ(0u, EdSession::instance().commandDepth());
        }});
@@ -83,7 +85,8 @@ TEST_F(Window, EndsWithoutSavingWhereThatIsWanted) {
 
 TEST_F(Window, ShowsCoordinatesAndTheCurrentLayer) {
   look(50, 50, 200);
-  run({[&] { hover(10, 20); }, [&] {
+  run({[&] { hover(10, 20); },
+       [&] {
          const QString text = window->findChild<QLabel*>(QStringLiteral("coordinates"))->text();
          const QStringList parts = text.split(QLatin1Char(','));
          ASSERT_EQ(2, parts.size());
@@ -109,13 +112,17 @@ TEST_F(Window, RunsACommandOfItsMenus) {
 TEST_F(Window, OpensADrawingOfTheRecentOnes) {
   const QString file = folder.filePath(QStringLiteral("a.dxf"));
   run({[&] { enter("point"); }, [&] { enter("1,1"); },
-       [&] { acedCommandTexts({L"SAVEAS", desktop::FromQt(file)}); }, [&] { enter("close"); },
+       [&] {
+         acedCommandTexts({L"SAVEAS", desktop::FromQt(file)});
+       },
+       [&] { enter("close"); },
        [&] {
          auto* recent = window->findChild<QMenu*>(QStringLiteral("recentFiles"));
          ASSERT_EQ(1, recent->actions().size());
          recent->actions().first()->trigger();
        },
-       [&] {}, [&] {
+       [&] {},
+       [&] {
          ASSERT_TRUE(curDoc());
          EXPECT_EQ(CString(L"a.dxf"), curDoc()->docTitle());
        }});
