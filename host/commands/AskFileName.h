@@ -18,8 +18,8 @@ struct FileNameQuestion {
 
 // Whether there are windows and the user answers; the variable FILEDIA turns choosers off.
 bool HasFileChooser();
-// By the front end's chooser where there is one; otherwise at the command line. Nothing when it was given up; empty for Enter where a usual name is
-// given.
+// By the front end's chooser where there is one; otherwise at the command line. Nothing when it was given up;
+// empty for Enter where a usual name is given.
 std::optional<CString> AskFileName(const FileNameQuestion& question);
 
 } // namespace commands

@@ -80,6 +80,13 @@ void OfferLeft(Autosave& autosave, MainWindow& window) {
   if (opened && autosave.save()) autosave.discard(left);
 }
 
+bool SavePicture(QWidget& widget, const CString& file) {
+  if (widget.grab().save(QString::fromStdString(afx::NativePath(file)), "PNG")) return true;
+  std::cout << "不能写图片文件“" << file.ToUtf8() << "”。\n";
+  return false;
+}
+
+constexpr int kPictureAfter = 300;            // milliseconds
 constexpr int kAutosaveEvery = 3 * 60 * 1000; // milliseconds
 constexpr int kAutosaveAgain = 10 * 1000;     // while a command runs
 
@@ -105,15 +112,26 @@ int Run(const DesktopJob& job, QSettings& settings, const QString& folder) {
                    [&] { autosaveTimer.start(autosave.save() ? kAutosaveEvery : kAutosaveAgain); });
   autosaveTimer.start(kAutosaveEvery);
   if (!job.screenshot && !job.script) feed.whenIdle([&] { OfferLeft(autosave, window); });
+  QTimer dialogTimer;
   if (job.screenshot) {
-    feed.whenIdle([&] {
-      QApplication::processEvents();
-      if (!window.grab().save(QString::fromStdString(afx::NativePath(*job.screenshot)), "PNG")) {
-        std::cout << "不能写图片文件“" << job.screenshot->ToUtf8() << "”。\n";
-        status = kUnusable;
-      }
+    const auto shoot = [&](QWidget& widget) {
+      if (!SavePicture(widget, *job.screenshot)) status = kUnusable;
+      dialogTimer.stop();
       session.requestQuit();
+    };
+    feed.whenIdle([&, shoot] {
+      if (!dialogTimer.isActive()) return;
+      QApplication::processEvents();
+      shoot(window);
     });
+    // A dialog that the script opens is what the picture is wanted of.
+    QObject::connect(&dialogTimer, &QTimer::timeout, [&, shoot] {
+      QWidget* dialog = QApplication::activeModalWidget();
+      if (!dialog) return;
+      shoot(*dialog);
+      dialog->close();
+    });
+    dialogTimer.start(kPictureAfter);
   }
   session.run();
   window.saveState();

@@ -36,6 +36,12 @@ void ControlView::changed(const UiChange& change) {
   if (change.kind == UiChange::Kind::look) {
     m_widget->setEnabled(m_control.IsWindowEnabled());
     m_widget->setVisible(m_control.IsWindowVisible());
+    if (const UiFont& font = m_control.GetFont(); !font.face.IsEmpty() || font.height > 0) {
+      QFont shown = m_widget->font();
+      if (!font.face.IsEmpty()) shown.setFamily(ToQt(font.face));
+      if (font.height > 0) shown.setPixelSize(font.height);
+      m_widget->setFont(shown);
+    }
     m_widget->setToolTip(Shown(m_control.GetToolTip()).toHtmlEscaped());
   }
   sync(change);

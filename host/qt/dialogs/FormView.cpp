@@ -24,13 +24,23 @@ bool HasLabelAbove(UiKind kind) {
   return kind == UiKind::listBox || kind == UiKind::tree || kind == UiKind::table ||
          kind == UiKind::propTree || kind == UiKind::picture || kind == UiKind::preview;
 }
-// Takes room that is left over also where the form does not say so.
+// Takes height that is left over. Within a row, stretching and spaces are about the width.
 bool GrowsDown(const UiLayout& layout) {
-  if (layout.stretch > 0) return true;
-  if (layout.kind == UiLayout::Kind::control)
+  switch (layout.kind) {
+  case UiLayout::Kind::space:
+    return false;
+  case UiLayout::Kind::control:
     return layout.control &&
            (HasLabelAbove(layout.control->Kind()) || layout.control->Kind() == UiKind::tabSheet);
-  return std::any_of(layout.children.begin(), layout.children.end(), GrowsDown);
+  case UiLayout::Kind::row:
+    return std::any_of(layout.children.begin(), layout.children.end(), GrowsDown);
+  case UiLayout::Kind::column:
+  case UiLayout::Kind::group:
+    break;
+  }
+  return std::any_of(layout.children.begin(), layout.children.end(), [](const UiLayout& child) {
+    return child.kind == UiLayout::Kind::space || child.stretch > 0 || GrowsDown(child);
+  });
 }
 
 } // namespace
@@ -53,7 +63,7 @@ void FormView::fillColumn(QGridLayout& grid, const UiLayout& layout) {
   int row = 0;
   bool grows = false;
   for (const UiLayout& child : layout.children) {
-    const bool down = GrowsDown(child);
+    const bool down = child.stretch > 0 || GrowsDown(child);
     grows = grows || down || child.kind == UiLayout::Kind::space;
     if (child.kind == UiLayout::Kind::space) {
       grid.setRowStretch(row++, std::max(child.stretch, 1));
