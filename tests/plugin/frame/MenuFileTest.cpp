@@ -5,6 +5,7 @@
 #include <map>
 #include <sstream>
 
+#include "ZpPaths.h"
 #include "host/afx/CString.h"
 #include "plugin/frame/CommandTable.h"
 
