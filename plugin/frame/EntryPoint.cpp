@@ -4,6 +4,7 @@
 #include "host/ed/AcRxAppMessages.h"
 #include "host/ed/AcRxDictionary.h"
 #include "host/ed/AcRxDynamicLinker.h"
+#include "host/ui/AcUi.h"
 #include "plugin/frame/CommandTable.h"
 #include "plugin/graph/ModuleResources.h"
 
@@ -11,7 +12,10 @@ namespace {
 
 // Attached from the moment the module is mapped until it is unmapped.
 struct MappedModule {
-  MappedModule() { module::Attach(); }
+  MappedModule() {
+    module::Attach();
+    InitAcUiDLL();
+  }
   ~MappedModule() { module::Detach(); }
 } const s_mapped;
 

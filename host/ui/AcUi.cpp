@@ -1,0 +1,3 @@
+#include "host/ui/AcUi.h"
+
+void InitAcUiDLL() {}
