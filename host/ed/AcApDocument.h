@@ -9,6 +9,7 @@
 #include "host/ge/AcGePoint3d.h"
 
 #include <memory>
+#include <unordered_set>
 #include <vector>
 
 class AcApDocument : public AcRxObject {
@@ -41,6 +42,7 @@ class AcApDocument : public AcRxObject {
     AcGePoint3d lastPoint;
     std::vector<AcDbObjectId> previousSelection;
     std::vector<AcDbObjectId> pickFirst;
+    std::unordered_set<AcDbObjectId> hidden; // entities left out of the picture
     std::vector<EdView> views; // those that were shown, the last one now; empty until one is asked for
   };
   EditState& edit() { return m_edit; }

@@ -50,6 +50,8 @@ class EdFrontEnd {
   virtual bool showProgress(const CString& /*task*/, double /*done*/) { return true; }
   // The document's picture is to be drawn anew.
   virtual void regenerate(AcApDocument&) {}
+  // Whatever is still to be drawn is to be drawn before the program goes on.
+  virtual void updateDisplay() {}
   // Another part of the document is to be shown, see ed::CurrentView.
   virtual void viewChanged(AcApDocument&) {}
   // Width over height of the drawing view; nothing where there is none.

@@ -3,6 +3,7 @@
 #include "host/db/AcDbBlockTable.h"
 #include "host/db/AcDbEntity.h"
 #include "host/db/AcDbLayerTable.h"
+#include "host/ed/AcApDocManager.h"
 #include "host/ed/EntityHitTest.h"
 
 #include <algorithm>
@@ -19,9 +20,13 @@ constexpr double kApertureOfSize = 1.0 / 500;
 template <typename Visit> void forEachDrawn(const AcDbDatabase& database, Visit visit) {
   const auto* space = AcDbBlockTableRecord::cast(CurrentSpace(database).object());
   if (!space) return;
+  const auto* document = acDocManagerPtr()->document(&database);
+  const auto isHidden = [&](const AcDbObjectId& id) {
+    return document && document->edit().hidden.contains(id);
+  };
   for (const auto& id : space->entities()) {
     const auto* entity = AcDbEntity::cast(id.object());
-    if (entity && IsDrawn(*entity)) visit(id, *entity);
+    if (entity && IsDrawn(*entity) && !isHidden(id)) visit(id, *entity);
   }
 }
 

@@ -21,6 +21,7 @@ AcDbObjectId CurrentSpace(const AcDbDatabase& database);
 
 // Every entity of every space, also those that are not drawn.
 std::vector<AcDbObjectId> AllEntities(const AcDbDatabase& database);
+// Without those that acedSetEntityHidden left out.
 std::vector<AcDbObjectId> DrawnEntities(const AcDbDatabase& database);
 std::vector<AcDbObjectId> EntitiesInWindow(const AcDbDatabase& database, const ge::Box2d& window,
                                            bool crossing);
