@@ -23,8 +23,9 @@ class TextbookExample : public testing::Test {
   SZPRadCalData data;
 };
 
-// 《供热工程》 (贺平, 孙刚), the example of the chapter on radiators: M-132型, 0.24 m² a section, at a wall
-// under a window board (β3 = 1.02), connected on one side, in at the top. Its K = 2.426 Δt^0.286 = 7.99:
+// 《供热工程》 (贺平, 孙刚), the example of the chapter on radiators, quoted by memory: M-132型, 0.24 m² a
+// section, at a wall under a window board (β3 = 1.02), connected on one side, in at the top. Its K = 2.426
+// Δt^0.286 = 7.99:
 //   64.5^0.286 = e^1.191666 = 3.29256, K = 7.98775, Qs = 7.98775 × 0.24 × 64.5 = 123.650 W
 //   n = 1600 / 123.650 × 1.02 = 13.1985, the book's 13.2; so β1 = 1.05 for 11 to 20 sections
 //   n = 13.1985 × 1.05 = 13.8585, the book's 13.9, for which it takes 14: (13.8585 - 13) / 13.8585 = 6.2 %
