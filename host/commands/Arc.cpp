@@ -43,6 +43,13 @@ void appendSweep(const AcGePoint3d& centre, double radius, double startAngle, do
     append(centre, radius, startAngle, startAngle + sweep);
 }
 
+// An entity's angles count from its plane's own axis.
+std::unique_ptr<AcDbArc> entityOf(const AcGeCircArc3d& arc) {
+  const double offset = arc.refVec().angleOnPlane(AcGePlane(arc.center(), arc.normal()));
+  return std::make_unique<AcDbArc>(arc.center(), arc.normal(), arc.radius(), arc.startAng() + offset,
+                                   arc.endAng() + offset);
+}
+
 void appendThrough(const AcGePoint3d& start, const AcGePoint3d& on, const AcGePoint3d& end) {
   AcGeCircArc3d arc;
   AcGeError status = AcGe::eOk;
@@ -61,9 +68,7 @@ void appendThrough(const AcGePoint3d& start, const AcGePoint3d& on, const AcGePo
       append(centre, arc.radius(), to, from);
     return;
   }
-  const double offset = arc.refVec().angleOnPlane(AcGePlane(arc.center(), arc.normal()));
-  AppendEntity(std::make_unique<AcDbArc>(arc.center(), arc.normal(), arc.radius(), arc.startAng() + offset,
-                                         arc.endAng() + offset));
+  AppendEntity(entityOf(arc));
 }
 
 // The start and the centre are known.
@@ -123,8 +128,7 @@ void askFrom(const AcGePoint3d& start) {
     question.preview = [&](AcGiWorldDraw& draw, const AcGePoint3d& cursor) {
       const AcGeCircArc3d arc(start, second.point, cursor);
       if (arc.radius() <= 0) return;
-      const double offset = arc.refVec().angleOnPlane(AcGePlane(arc.center(), arc.normal()));
-      AcDbArc(arc.center(), arc.normal(), arc.radius(), offset, arc.endAng() + offset).worldDraw(draw);
+      entityOf(arc)->worldDraw(draw);
     };
     const auto end = ed::AskPoint(question);
     if (end.hasValue()) appendThrough(start, second.point, end.point);

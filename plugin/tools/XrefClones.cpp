@@ -22,30 +22,31 @@ namespace ZP {
 
 namespace {
 
-enum RedrawMode { kShow = 1, kHide = 2 };
+// What the last CloneXrefBlock did.
+std::vector<AcDbObjectId> g_cloneEntityIds; // it added these to the drawing
+std::vector<AcDbObjectId> g_cloneXrefIds;   // it hid these references
 
-// What the last CloneXrefBlock did. Ids live no longer than their drawing, so it is forgotten with it.
-class Remembered : public AcApDocManagerReactor {
+// Ids live no longer than their drawing, so what was done in one is forgotten with it.
+class Forgetting : public AcApDocManagerReactor {
  public:
-  Remembered() { acDocManagerPtr()->addReactor(this); }
-  ~Remembered() override { acDocManagerPtr()->removeReactor(this); }
+  Forgetting() { acDocManagerPtr()->addReactor(this); }
+  ~Forgetting() override { acDocManagerPtr()->removeReactor(this); }
   void documentToBeDestroyed(AcApDocument* document) override {
-    if (document && document->database() == drawing) Clear();
+    if (document && document->database() == m_drawing) Begin(nullptr);
   }
-  void Clear() {
-    drawing = nullptr;
-    cloneEntityIds.clear();
-    cloneXrefIds.clear();
+  void Begin(const AcDbDatabase* drawing) {
+    m_drawing = drawing;
+    g_cloneEntityIds = {};
+    g_cloneXrefIds = {};
   }
 
-  const AcDbDatabase* drawing = nullptr;
-  std::vector<AcDbObjectId> cloneEntityIds; // what it added to the drawing
-  std::vector<AcDbObjectId> cloneXrefIds;   // the references that it hid
+ private:
+  const AcDbDatabase* m_drawing = nullptr;
 };
 
-Remembered& Memory() {
-  static Remembered memory;
-  return memory;
+void Begin(const AcDbDatabase* drawing) {
+  static Forgetting forgetting;
+  forgetting.Begin(drawing);
 }
 
 // An external reference as far as its copies follow it.
@@ -88,7 +89,7 @@ void AddContents(const AcDbObjectId& block, const AcGeVector3d& scales) {
       delete part;
       continue;
     }
-    Memory().cloneEntityIds.push_back(part->objectId());
+    g_cloneEntityIds.push_back(part->objectId());
     part->close();
   }
 }
@@ -114,8 +115,8 @@ void CloneReference(const AcDbObjectId& id, AcDbDatabase& working) {
   AddContents(block, reference.scales);
   AcDbObjectPointer<AcDbBlockTableRecord> record(block, AcDb::kForWrite);
   if (record) record->erase();
-  Memory().cloneXrefIds.push_back(id);
-  EntityRedraw(id, kHide);
+  g_cloneXrefIds.push_back(id);
+  EntityRedraw(id, kHideEntity);
 }
 
 // Layers that are unlocked and thawed for the length of a scope.
@@ -153,9 +154,8 @@ class OpenLayers {
 } // namespace
 
 bool CloneXrefBlock() {
-  Memory().Clear();
   auto* working = acdbHostApplicationServices()->workingDatabase();
-  Memory().drawing = working;
+  Begin(working);
   const ArxDbgRbList filter(acutBuildList(RTDXF0, L"INSERT", RTNONE));
   ArxDbgSelSet references;
   if (!working || references.allSelect(filter) != ArxDbgSelSet::kSelected) return false;
@@ -167,11 +167,11 @@ bool DeleteCloneXrefBlock() {
   bool all = true;
   if (const auto* working = acdbHostApplicationServices()->workingDatabase()) {
     const OpenLayers layers(*working);
-    for (const auto& id : Memory().cloneEntityIds) {
+    for (const auto& id : g_cloneEntityIds) {
       AcDbObjectPointer<AcDbEntity> copy(id, AcDb::kForWrite);
       if (!copy || copy->erase() != Acad::eOk) all = false;
     }
-    for (const auto& id : Memory().cloneXrefIds) EntityRedraw(id, kShow);
+    for (const auto& id : g_cloneXrefIds) EntityRedraw(id, kShowEntity);
   }
   FlushGraphics();
   return all;
