@@ -2,6 +2,11 @@
 #include "host/afx/CInvalidArgException.h"
 #include "host/db/AcDbBlockReference.h"
 #include "host/db/AcGiWorldDraw.h"
+#include "plugin/layers/CZPGroupLayer.h"
+#include "plugin/layers/CZPLayer.h"
+#include "plugin/layers/CZPManagerLayer.h"
+#include "plugin/layers/CZPSystemLayer.h"
+#include "plugin/layers/LayerService.h"
 #include "plugin/tools/CZPMultiEntity.h"
 #include "tests/support/EditorFixture.h"
 
@@ -210,6 +215,34 @@ TEST_F(MultiEntity, AnEntityOnALayerWithoutIdentifierIsDrawnInColour0) {
   ColourDraw draw;
   groups.subWorldDraw(&draw);
   EXPECT_EQ(std::vector<int>{0}, draw.colours);
+}
+
+TEST_F(MultiEntity, AnEntityIsDrawnInTheColourThatTheSchemeGivesItsLayer) {
+  auto& scheme = *CZPManagerLayer::GetInstance();
+  scheme.RemoveAll();
+  auto* category = new CZPSystemLayer;
+  auto* group = new CZPGroupLayer;
+  auto* definition = new CZPLayer;
+  definition->SetKorLayer(L"采暖供水");
+  definition->SetUserLayer(L"供水");
+  definition->SetColorIndex(30);
+  scheme.Add(category);
+  category->Add(group);
+  group->Add(definition);
+  ASSERT_EQ(L"供水", ZP::GetUserLayer(L"采暖供水")) << "makes the layer and stamps it";
+  AcDbObjectId layer;
+  AcDbLayerTable::cast(database().layerTableId().object())->getAt(L"供水", layer);
+  auto* line = new AcDbLine(AcGePoint3d(), {1, 0, 0});
+  auto* reference = new AcDbBlockReference({5, 0, 0}, makeBlock());
+  for (AcDbEntity* entity : {static_cast<AcDbEntity*>(line), static_cast<AcDbEntity*>(reference)}) {
+    ASSERT_EQ(Acad::eOk, entity->setLayer(layer));
+    groups.AddEntityToGroup(entity, 0);
+  }
+  ColourDraw draw;
+  groups.subWorldDraw(&draw);
+  EXPECT_EQ((std::vector<int>{30, 30, 30}), draw.colours) << "the line, and both parts of the reference";
+  EXPECT_EQ(256, line->colorIndex()) << "the entity itself stays as it was";
+  scheme.RemoveAll();
 }
 
 TEST_F(MultiEntity, ACopySharesTheEntities) {
