@@ -59,7 +59,8 @@ void AcDbDatabase::completeClasses() {
     found = type;
     ++count;
   }
-  for (const auto& [name, use] : used) {
+  for (const auto& entry : used) {
+    const std::string_view name = entry.first;
     const bool isThere =
         std::any_of(m_form.classes.begin(), m_form.classes.end(), [&](const DxfRecord& record) {
           for (const DxfTag& tag : record.tags())
@@ -67,12 +68,12 @@ void AcDbDatabase::completeClasses() {
           return false;
         });
     if (isThere) continue;
-    const AcRxClass& type = *use.first;
+    const AcRxClass& type = *entry.second.first;
     const auto tag = [](int code, std::string_view value) { return DxfRecordEditor::tag(code, value); };
     std::string text = tag(0, "CLASS") + tag(1, name) + tag(2, CString(type.name()).ToUtf8()) +
                        tag(3, dxf::encodeText(CString::FromUtf8(type.application()))) +
                        tag(90, std::to_string(type.proxyFlags()));
-    if (m_form.version >= "AC1018") text += tag(91, std::to_string(use.second));
+    if (m_form.version >= "AC1018") text += tag(91, std::to_string(entry.second.second));
     text += tag(280, "0") + tag(281, type.isDerivedFrom(AcDbEntity::desc()) ? "1" : "0");
     m_form.classes.push_back(DxfRecord::own(std::move(text)));
   }

@@ -21,6 +21,9 @@ struct Found {
   double tolerance = 0.0;
 };
 
+// Up to so many pairs of pieces comparing all boxes is quicker than sorting them.
+constexpr std::size_t kFewPairs = 64;
+
 Box2d Grown(Box2d box, double by) {
   box.minX -= by;
   box.minY -= by;
@@ -43,6 +46,7 @@ class CurvePair {
   // What nearly all pairs of a drawing are, told by their boxes alone.
   bool AreClearlyApart() const;
   void VisitCommonPlane();
+  void VisitFewPieces();
   void VisitSpace();
   void VisitPair(std::size_t i, std::size_t j);
   void Take(const PieceMeetings& meetings, std::size_t i, std::size_t j, double tolerance,
@@ -133,9 +137,26 @@ void CurvePair::VisitCommonPlane() {
       VisitPair(0, 0);
     return;
   }
+  if (m_plane.first.size() * m_plane.second.size() <= kFewPairs && !m_firstExtended && !m_secondExtended) {
+    VisitFewPieces();
+    return;
+  }
   auto first = boxesOf(m_first, m_firstExtended, m_plane.first);
   auto second = boxesOf(m_second, m_secondExtended, m_plane.second);
   ForEachClosePair(first, second, [&](std::size_t i, std::size_t j) { VisitPair(i, j); });
+}
+
+// Short polylines, as most of a plan are: nothing is sorted and no memory taken.
+void CurvePair::VisitFewPieces() {
+  const auto overlap = [](const Box2d& a, const Box2d& b) {
+    return a.minX <= b.maxX && b.minX <= a.maxX && a.minY <= b.maxY && b.minY <= a.maxY;
+  };
+  for (std::size_t i = 0; i < m_plane.first.size(); ++i) {
+    const Box2d box = Grown(m_plane.first[i].box, 2.0 * m_tolerance);
+    for (std::size_t j = 0; j < m_plane.second.size(); ++j) {
+      if (overlap(box, m_plane.second[j].box)) VisitPair(i, j);
+    }
+  }
 }
 
 void CurvePair::VisitSpace() {

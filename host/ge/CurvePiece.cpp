@@ -27,6 +27,12 @@ void SetArcMeasures(CurvePiece& piece, double offset) {
   piece.magnitude = offset + Magnitude(piece.arc.center) + piece.arc.radius;
 }
 
+// Without the care of hypot, which takes the most of a distance's time: coordinates are below kLargestNumber,
+// and what underflows is far below any tolerance.
+double Length(const AcGeVector2d& v) {
+  return std::sqrt(v.x * v.x + v.y * v.y);
+}
+
 // From the arc's start to the direction of a vector out of its centre, the way the arc runs, in [0, 2 pi).
 double Turned(const CurvePiece& piece, const AcGeVector2d& v) {
   const AcGeVector2d s = piece.start - piece.arc.center;
@@ -134,17 +140,17 @@ double NearestFraction(const ReachedPiece& reached, const AcGePoint2d& p) {
 
 double DistanceTo(const ReachedPiece& reached, const AcGePoint2d& p) {
   const CurvePiece& piece = *reached.piece;
-  if (!(piece.length > 0.0)) return p.distanceTo(piece.start);
+  if (!(piece.length > 0.0)) return Length(p - piece.start);
   if (piece.isArc) {
     const AcGeVector2d out = p - piece.arc.center;
-    const double aside = std::fabs(out.length() - piece.arc.radius);
+    const double aside = std::fabs(Length(out) - piece.arc.radius);
     if (reached.IsCircle() || Turned(piece, out) <= std::fabs(piece.arc.sweep)) return aside;
-    return std::min(p.distanceTo(piece.start), p.distanceTo(piece.end));
+    return std::min(Length(p - piece.start), Length(p - piece.end));
   }
   const AcGeVector2d out = p - piece.start;
   const double t = out.dotProduct(piece.along);
-  if (t < 0.0 && !reached.openStart) return out.length();
-  if (t > piece.length && !reached.openEnd) return p.distanceTo(piece.end);
+  if (t < 0.0 && !reached.openStart) return Length(out);
+  if (t > piece.length && !reached.openEnd) return Length(p - piece.end);
   return std::fabs(piece.along.crossProduct(out));
 }
 

@@ -37,6 +37,11 @@ class Meeting {
   // How much fraction a full turn is.
   double Turn() const { return 2.0 * std::numbers::pi / std::fabs(m_first.piece->arc.sweep); }
   PieceMeeting Snapped(const AcGePoint2d& p) const;
+  // Whether two points are one within the tolerance; most are told apart by one coordinate.
+  bool AreOne(const AcGePoint2d& p, const AcGePoint2d& q) const {
+    return std::fabs(p.x - q.x) <= m_tolerance && std::fabs(p.y - q.y) <= m_tolerance &&
+           p.distanceTo(q) <= m_tolerance;
+  }
 
   const ReachedPiece& m_first;
   const ReachedPiece& m_second;
@@ -47,6 +52,15 @@ class Meeting {
   bool m_dropped[4] = {};
   PieceMeetings m_result;
 };
+
+// What most ends and solutions are, told by the box. Twice the tolerance covers the rounding of an arc's
+// extents.
+bool LiesClearlyAside(const ReachedPiece& reached, const AcGePoint2d& p, double tolerance) {
+  if (reached.openStart || reached.openEnd) return false;
+  const Box2d& box = reached.piece->box;
+  const double slack = 2.0 * tolerance;
+  return p.x < box.minX - slack || p.x > box.maxX + slack || p.y < box.minY - slack || p.y > box.maxY + slack;
+}
 
 double Meeting::ToSolution(const AcGePoint2d& p) const {
   double least = kInfinity;
@@ -66,9 +80,10 @@ bool Meeting::ShowsCurvature(double from, double to) const {
 
 void Meeting::AddEnd(const AcGePoint2d& p, MeetingAt at) {
   const bool ofFirst = at == MeetingAt::kFirstStart || at == MeetingAt::kFirstEnd;
-  if (DistanceTo(ofFirst ? m_second : m_first, p) > m_tolerance) return;
+  const ReachedPiece& other = ofFirst ? m_second : m_first;
+  if (LiesClearlyAside(other, p, m_tolerance) || DistanceTo(other, p) > m_tolerance) return;
   for (int i = 0; i < m_endCount; ++i) {
-    if (m_ends[i].point.distanceTo(p) <= m_tolerance) return;
+    if (AreOne(p, m_ends[i].point)) return;
   }
   double fraction = at == MeetingAt::kFirstEnd ? 1.0 : 0.0;
   if (!ofFirst) fraction = NearestFraction(m_first, p);
@@ -114,18 +129,18 @@ void Meeting::JoinEnds() {
 PieceMeeting Meeting::Snapped(const AcGePoint2d& p) const {
   const CurvePiece& first = *m_first.piece;
   const CurvePiece& second = *m_second.piece;
-  if (p.distanceTo(first.start) <= m_tolerance) return {0.0, first.start, MeetingAt::kFirstStart};
-  if (p.distanceTo(first.end) <= m_tolerance) return {1.0, first.end, MeetingAt::kFirstEnd};
-  if (p.distanceTo(second.start) <= m_tolerance)
+  if (AreOne(p, first.start)) return {0.0, first.start, MeetingAt::kFirstStart};
+  if (AreOne(p, first.end)) return {1.0, first.end, MeetingAt::kFirstEnd};
+  if (AreOne(p, second.start))
     return {FractionAt(first, second.start), second.start, MeetingAt::kSecondStart};
-  if (p.distanceTo(second.end) <= m_tolerance)
-    return {FractionAt(first, second.end), second.end, MeetingAt::kSecondEnd};
+  if (AreOne(p, second.end)) return {FractionAt(first, second.end), second.end, MeetingAt::kSecondEnd};
   return {FractionAt(first, p), p, MeetingAt::kBetween};
 }
 
 void Meeting::AddSolutions() {
   for (int i = 0; i < m_carriers.count; ++i) {
     const AcGePoint2d& p = m_carriers.points[i];
+    if (LiesClearlyAside(m_first, p, m_tolerance) || LiesClearlyAside(m_second, p, m_tolerance)) continue;
     const double fraction = FractionAt(*m_first.piece, p);
     if (!Reaches(m_first, fraction) || !Reaches(m_second, FractionAt(*m_second.piece, p))) continue;
     bool taken = false;
@@ -134,7 +149,7 @@ void Meeting::AddSolutions() {
       // The shorter way round a circle.
       if (m_first.IsCircle() && std::fabs(other - fraction) > Turn() / 2.0)
         other += other < fraction ? Turn() : -Turn();
-      taken = p.distanceTo(m_ends[e].point) <= m_tolerance || RunsAlong(fraction, other);
+      taken = AreOne(p, m_ends[e].point) || RunsAlong(fraction, other);
     }
     if (!taken) m_result.Add(Snapped(p));
   }
