@@ -9,7 +9,8 @@ import tempfile
 from pathlib import Path
 
 SOURCE = Path(__file__).resolve().parents[2]
-DESCRIPTION = {"expected.txt", "expected.dxf", "expected-files.txt", "status.txt", "options.txt", "stdin.txt"}
+DESCRIPTION = {"expected.txt", "expected.dxf", "expected-files.txt", "status.txt", "options.txt", "stdin.txt",
+               "data.txt"}
 
 
 def read_text(path, default=""):
@@ -41,6 +42,12 @@ def compare_tags(expected, actual):
     return None
 
 
+def given_data(case):
+    """The folder whose copy the case wants as its data, or None."""
+    named = read_text(case / "data.txt").strip()
+    return Path(named.format(source=SOURCE)) if named else None
+
+
 def run(program, case, folder):
     """Runs the case in the folder. Gives exit status and output."""
     for entry in case.iterdir():
@@ -48,6 +55,8 @@ def run(program, case, folder):
             copy = shutil.copytree if entry.is_dir() else shutil.copy
             copy(entry, folder / entry.name)
     data = folder / "data"
+    if given_data(case):
+        shutil.copytree(given_data(case), data, dirs_exist_ok=True)
     data.mkdir(exist_ok=True)
     words = {"bin": Path(program).resolve().parent, "source": SOURCE}
     options = [line.format(**words) for line in read_text(case / "options.txt").splitlines() if line]
@@ -67,6 +76,8 @@ def run(program, case, folder):
 def added_files(case, folder):
     """Files that the run made, beside the drawing that it may save to."""
     ours = {str(p.relative_to(case)) for p in case.rglob("*")} | {"output.dxf"}
+    if given_data(case):
+        ours |= {str("data" / p.relative_to(given_data(case))) for p in given_data(case).rglob("*")}
     return sorted(str(p.relative_to(folder)) for p in folder.rglob("*")
                   if p.is_file() and str(p.relative_to(folder)) not in ours)
 

@@ -55,6 +55,14 @@ class RunCase(unittest.TestCase):
         self.write("expected.dxf", "0\nLINE\n10\n1.6\n")
         self.assertIn("tag 1", self.findings()[0])
 
+    def test_the_data_that_a_case_asks_for_is_copied_and_is_no_added_file(self):
+        data = self.root / "shipped"
+        (data / "Data").mkdir(parents=True)
+        (data / "Data" / "table.idp").write_text("x", encoding="utf-8")
+        self.write("data.txt", f"{data}\n")
+        self.assertEqual([], self.findings())
+        self.assertEqual("x", (self.root / "run" / "data" / "Data" / "table.idp").read_text(encoding="utf-8"))
+
     def test_a_shorter_drawing_fails(self):
         self.write("expected.dxf", "0\nLINE\n10\n1.5\n0\nEOF\n")
         self.assertIn("3 tags", self.findings()[0])

@@ -1,0 +1,23 @@
+// To add a command: write its function in a file of its own in commands/, declare it in Commands.h, give it a
+// row here and a line in ZPWorkbench.menu, and a drawing test, tests/drawings/workbench_NAME. Questions that
+// several commands ask stand in Asking.h and PipeQuestions.h, what is put on layers in LayerPlacing.h.
+#include "plugins/workbench/CommandTable.h"
+
+#include "plugins/workbench/Commands.h"
+
+namespace workbench {
+namespace {
+
+constexpr unsigned kDraws = ACRX_CMD_MODAL;
+
+constexpr CommandRow kTable[] = {
+    {L"WB_HZGG", L"绘制干管", kDraws, DrawMainPipe},
+};
+
+} // namespace
+
+std::span<const CommandRow> CommandTable() {
+  return kTable;
+}
+
+} // namespace workbench

@@ -1,0 +1,9 @@
+// The functions of the commands, each in the file of its name in commands/. A command is one step for U; one
+// whose last prompt was answered with Escape leaves the drawing as it was. The host sees to both.
+#pragma once
+
+namespace workbench {
+
+void DrawMainPipe(); // mains from point to point, with material, diameter and elevation
+
+} // namespace workbench
