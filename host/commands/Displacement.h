@@ -2,7 +2,7 @@
 #pragma once
 
 #include "host/db/AcDbObjectId.h"
-#include "host/ge/AcGePoint3d.h"
+#include "host/ed/EdPrompts.h"
 #include "host/ge/AcGeVector3d.h"
 
 #include <optional>
@@ -10,17 +10,15 @@
 
 namespace commands {
 
-struct Displacement {
-  AcGeVector3d vector;
-  std::optional<AcGePoint3d> base; // where it was counted from; nothing where it was given as such
-};
-
 // Asks for a base point and a second point, or for the displacement itself; Enter at the second point takes
 // the base point as the displacement. Nothing for Escape. ids are shown on their way.
-std::optional<Displacement> AskDisplacement(const std::vector<AcDbObjectId>& ids);
+std::optional<AcGeVector3d> AskDisplacement(const std::vector<AcDbObjectId>& ids);
 
-// Asks for one more target from the same base; nothing for Enter and Escape. cancelled tells which.
-std::optional<AcGeVector3d> AskAnotherTarget(const std::vector<AcDbObjectId>& ids, const AcGePoint3d& base,
-                                             bool& cancelled);
+// Asks for the displacement itself. Nothing for Escape.
+std::optional<AcGeVector3d> AskVector();
+
+// The question for a point that shows the entities shifted from base to the cursor.
+ed::Question TargetQuestion(const CString& prompt, const wchar_t* keywords,
+                            const std::vector<AcDbObjectId>& ids, const AcGePoint3d& base);
 
 } // namespace commands

@@ -2,6 +2,7 @@
 
 #include "host/commands/LayerText.h"
 #include "host/commands/NumberText.h"
+#include "host/db/AcDbAttribute.h"
 #include "host/db/AcDbBlockReference.h"
 #include "host/db/AcDbCurves.h"
 #include "host/db/AcDbSymbolTableRecord.h"
@@ -32,8 +33,8 @@ double degrees(double radians) {
   return radians * 180.0 / std::numbers::pi;
 }
 
-CString row(const wchar_t* title, const CString& value) {
-  return CString(L"  ") + title + L"：" + value + L"\n";
+CString row(const CString& title, const CString& value) {
+  return L"  " + title + L"：" + value + L"\n";
 }
 
 CString lineText(const AcDbLine& line) {
@@ -80,9 +81,14 @@ CString textText(const AcDbText& text) {
 CString insertText(const AcDbBlockReference& insert) {
   const auto* block = AcDbSymbolTableRecord::cast(insert.blockTableRecord().object());
   const auto scale = insert.scaleFactors();
+  CString attributes;
+  for (const auto& id : insert.attributes()) {
+    const auto& attribute = *AcDbAttribute::cast(id.object());
+    attributes += row(L"属性 " + attribute.tag(), attribute.textString());
+  }
   return row(L"块名", block ? block->name() : CString()) + row(L"插入点", PointText(insert.position())) +
          row(L"比例", NumberText(scale.x) + L"," + NumberText(scale.y) + L"," + NumberText(scale.z)) +
-         row(L"旋转角", NumberText(degrees(insert.rotation())));
+         row(L"旋转角", NumberText(degrees(insert.rotation()))) + attributes;
 }
 
 CString geometryText(const AcDbEntity& entity) {

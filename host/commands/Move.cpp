@@ -12,7 +12,7 @@ void Move() {
   if (ids.empty()) return;
   const auto displacement = AskDisplacement(ids);
   if (!displacement) return;
-  const auto matrix = AcGeMatrix3d::translation(displacement->vector);
+  const auto matrix = AcGeMatrix3d::translation(*displacement);
   const int moved =
       ForEachForWrite(ids, [&](AcDbEntity& entity) { return entity.transformBy(matrix) == Acad::eOk; });
   acutPrintf(L"\n移动了 %d 个。\n", moved);

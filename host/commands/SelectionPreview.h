@@ -16,5 +16,9 @@ namespace commands {
 // front end keeps up with the mouse.
 std::function<void(AcGiWorldDraw&, const AcGePoint3d&)>
 PreviewThrough(std::vector<AcDbObjectId> ids, std::function<AcGeMatrix3d(const AcGePoint3d&)> matrixAt);
+// The same through several matrices, for several copies.
+std::function<void(AcGiWorldDraw&, const AcGePoint3d&)>
+PreviewThroughAll(std::vector<AcDbObjectId> ids,
+                  std::function<std::vector<AcGeMatrix3d>(const AcGePoint3d&)> matricesAt);
 
 } // namespace commands

@@ -31,8 +31,17 @@ class AcDbTaggedText : public AcDbText {
   int m_flags = 0;
 };
 
+class AcDbAttributeDefinition;
+
 class AcDbAttribute : public AcDbTaggedText {
   ACRX_DECLARE_MEMBERS(AcDbAttribute);
+
+ public:
+  // Takes tag, text, look and place of a definition that is in a drawing, as an insertion with that block
+  // transform has it. For an attribute outside a drawing: eAlreadyInDb otherwise; eNullObjectPointer,
+  // eNoDatabase, eInvalidInput, eCannotScaleNonUniformly for a singular transform.
+  Acad::ErrorStatus setAttributeFromBlock(const AcDbAttributeDefinition* definition,
+                                          const AcGeMatrix3d& blockTransform);
 
  protected:
   void dxfOutFields(DxfRecordEditor& editor) const override;

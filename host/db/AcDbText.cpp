@@ -76,10 +76,15 @@ void AcDbText::drawText(AcGiWorldDraw& draw, const CString& text) const {
 Acad::ErrorStatus AcDbText::transformBy(const AcGeMatrix3d& matrix) {
   if (!matrix.isUniScaledOrtho()) return Acad::eCannotScaleNonUniformly;
   if (!entity::isFinite(matrix)) return Acad::eInvalidInput;
+  return followUnevenly(matrix);
+}
+
+Acad::ErrorStatus AcDbText::followUnevenly(const AcGeMatrix3d& matrix) {
   if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
   const AcGeVector3d x = entity::xAxis(m_normal);
   const AcGeVector3d y = m_normal.crossProduct(x);
   const AcGeVector3d direction = matrix * (x * std::cos(m_rotation) + y * std::sin(m_rotation));
+  const AcGeVector3d up = matrix * (y * std::cos(m_rotation) - x * std::sin(m_rotation));
   const AcGePoint3d moved = matrix * position();
   const auto aligned =
       m_alignment ? std::optional(matrix * entity::toWorld(*m_alignment, m_normal)) : std::nullopt;
@@ -88,7 +93,12 @@ Acad::ErrorStatus AcDbText::transformBy(const AcGeMatrix3d& matrix) {
   if (aligned) m_alignment = entity::toObject(*aligned, m_normal);
   const AcGeVector3d newX = entity::xAxis(m_normal);
   m_rotation = std::atan2(direction.dotProduct(m_normal.crossProduct(newX)), direction.dotProduct(newX));
-  m_height *= matrix.scale();
+  if (matrix.isUniScaledOrtho()) {
+    m_height *= matrix.scale();
+  } else {
+    m_height *= up.length();
+    m_widthFactor *= direction.length() / up.length();
+  }
   return Acad::eOk;
 }
 

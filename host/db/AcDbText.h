@@ -40,6 +40,9 @@ class AcDbText : public AcDbEntity {
   // Whether a record of the class ends with its marker a second time.
   virtual bool hasClosingMarker() const { return true; }
   void drawText(AcGiWorldDraw& draw, const CString& text) const;
+  // Goes where any matrix that is not singular puts it. Under uneven scales the letters stay upright, and the
+  // base line and the height are scaled each by itself.
+  Acad::ErrorStatus followUnevenly(const AcGeMatrix3d& matrix);
 
  private:
   AcGePoint3d m_position; // in the system of the normal

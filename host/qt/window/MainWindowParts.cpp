@@ -135,7 +135,7 @@ void MainWindow::showCanvasMenu(const QPoint& at) {
   if (prompt.wants == EdPromptState::Wants::command) {
     addLine(QStringLiteral("重复上一命令"), L"");
     menu.addSeparator();
-    for (const wchar_t* command : {L"U", L"REDO", L"ERASE", L"MOVE", L"ROTATE", L"LIST"})
+    for (const wchar_t* command : {L"U", L"REDO", L"ERASE", L"MOVE", L"COPY", L"ROTATE", L"LIST"})
       addLine(Plain(m_titles.title(command)), command);
     menu.addSeparator();
     connect(menu.addAction(QStringLiteral("显示全部")), &QAction::triggered, this, [this] {

@@ -1,13 +1,24 @@
 // MOVE, COPY and ROTATE.
+#include "host/db/ExtentsDraw.h"
+#include "host/ed/EntitySearch.h"
 #include "tests/host/commands/CommandFixture.h"
 
+#include <algorithm>
 #include <numbers>
 
 namespace {
 
 class EditCommands : public CommandFixture {
  protected:
+  using Starts = std::vector<AcGePoint3d>;
+
   static const AcDbLine& line(const AcDbObjectId& id) { return *AcDbLine::cast(id.object()); }
+  // Where the lines of the drawing begin.
+  Starts starts() {
+    Starts points;
+    for (const auto& id : ed::AllEntities(database())) points.push_back(line(id).startPoint());
+    return points;
+  }
 };
 
 } // namespace
@@ -77,4 +88,86 @@ TEST_F(EditCommands, AnAngleMustBeOne) {
   addLine({1, 0, 0}, {2, 0, 0});
   run(L"ROTATE", {L"all", L"", L"1,0", L"九十"});
   EXPECT_GE(reason().Find(L"不是角度"), 0);
+}
+
+TEST_F(EditCommands, CopyGoesOnUntilEnter) {
+  addLine({0, 0, 0}, {1, 0, 0});
+  run(L"COPY", {L"all", L"", L"0,0", L"10,0", L"20,0", L""});
+  EXPECT_EQ(starts(), (Starts{{0, 0, 0}, {10, 0, 0}, {20, 0, 0}}));
+  EXPECT_TRUE(frontEnd.said(L"复制了 2 个"));
+  run(L"U");
+  EXPECT_EQ(1u, entityCount()) << "the whole command";
+  run(L"REDO");
+  EXPECT_EQ(3u, entityCount());
+}
+
+TEST_F(EditCommands, CopyTakesADisplacementAsSuchOrAsTheBasePoint) {
+  addLine({0, 0, 0}, {1, 0, 0});
+  run(L"COPY", {L"l", L"", L"3,4", L""});
+  run(L"COPY", {L"l", L"", L"", L"1,1,1"});
+  run(L"COPY", {L"l", L"", L"D", L"1,0"});
+  EXPECT_EQ(starts(), (Starts{{0, 0, 0}, {3, 4, 0}, {4, 5, 1}, {5, 5, 1}}));
+}
+
+TEST_F(EditCommands, CopyTakesBackItsLastStep) {
+  addLine({0, 0, 0}, {1, 0, 0});
+  run(L"COPY", {L"all", L"", L"0,0", L"10,0", L"20,0", L"U", L"30,0", L"E"});
+  EXPECT_EQ(starts(), (Starts{{0, 0, 0}, {10, 0, 0}, {30, 0, 0}}));
+  EXPECT_TRUE(frontEnd.said(L"复制了 2 个"));
+  run(L"COPY", {L"l", L"", L"0,0", L"5,5", L"U", L"U", L""});
+  EXPECT_EQ(3u, entityCount());
+  EXPECT_TRUE(frontEnd.said(L"没有可放弃的复制"));
+}
+
+TEST_F(EditCommands, CopyMakesARow) {
+  addLine({0, 0, 0}, {1, 0, 0});
+  run(L"COPY", {L"all", L"", L"0,0", L"A", L"4", L"2,1", L""});
+  EXPECT_EQ(starts(), (Starts{{0, 0, 0}, {2, 1, 0}, {4, 2, 0}, {6, 3, 0}}));
+  run(L"U");
+  run(L"COPY", {L"all", L"", L"0,0", L"A", L"4", L"F", L"6,3", L""});
+  EXPECT_EQ(starts(), (Starts{{0, 0, 0}, {2, 1, 0}, {4, 2, 0}, {6, 3, 0}})) << "the last one stands there";
+}
+
+TEST_F(EditCommands, ARowHasAtLeastTwo) {
+  addLine({0, 0, 0}, {1, 0, 0});
+  run(L"COPY", {L"all", L"", L"0,0", L"A", L"1", L"2", L"7,0", L""});
+  EXPECT_GE(reason().Find(L"不是一排的项目数"), 0);
+  EXPECT_EQ(starts(), (Starts{{0, 0, 0}, {7, 0, 0}}));
+}
+
+TEST_F(EditCommands, CopyOnceEndsWithTheFirst) {
+  addLine({0, 0, 0}, {1, 0, 0});
+  run(L"COPY", {L"all", L"", L"O", L"S", L"0,0", L"10,0"});
+  EXPECT_EQ(2u, entityCount());
+  EXPECT_EQ(1, SystemVariables::integer(L"COPYMODE"));
+  run(L"COPY", {L"l", L"", L"O", L"M", L"0,0", L"5,0", L"6,0", L""});
+  EXPECT_EQ(4u, entityCount());
+}
+
+TEST_F(EditCommands, CopiesOfWhatIsLockedAreLockedToo) {
+  addLayer(L"锁");
+  addLine({0, 0, 0}, {1, 0, 0}, L"锁");
+  run(L"LAYER", {L"LO", L"锁", L""});
+  run(L"COPY", {L"all", L"", L"0,0", L"9,9", L""});
+  EXPECT_EQ(starts(), (Starts{{0, 0, 0}, {9, 9, 0}}));
+  EXPECT_EQ(line(ed::AllEntities(database()).back()).layer(), L"锁");
+}
+
+TEST_F(EditCommands, EscapeTakesBackAllCopies) {
+  addLine({0, 0, 0}, {1, 0, 0});
+  run(L"COPY", {L"all", L"", L"0,0", L"10,0", L"*cancel*"});
+  EXPECT_EQ(1u, entityCount());
+}
+
+TEST_F(EditCommands, WhatIsCopiedIsShownOnItsWay) {
+  addLine({0, 0, 0}, {1, 0, 0});
+  std::vector<AcGePoint3d> shown;
+  frontEnd.onTransients = [&] {
+    ExtentsDraw box;
+    session().transients().draw(box);
+    if (!box.extents().isEmpty()) shown.push_back(box.extents().minPoint());
+  };
+  run(L"COPY", {L"all", L"", L"0,0", L"drag 4,4", L"A", L"3", L"drag 1,0", L"2,0", L""});
+  EXPECT_NE(std::find(shown.begin(), shown.end(), AcGePoint3d(4, 4, 0)), shown.end());
+  EXPECT_NE(std::find(shown.begin(), shown.end(), AcGePoint3d(1, 0, 0)), shown.end());
 }
