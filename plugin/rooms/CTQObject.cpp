@@ -1,0 +1,6 @@
+#include "plugin/rooms/CTQObject.h"
+
+IMPLEMENT_DYNAMIC(CTQObject, CObject)
+
+CTQObject::CTQObject() = default;
+CTQObject::~CTQObject() = default;
