@@ -7,6 +7,8 @@
 namespace workbench {
 namespace {
 
+constexpr int kRangeDecimals = 5;
+
 CString KeyOf(const CString& name) {
   return L"工作台\\" + name;
 }
@@ -20,8 +22,8 @@ std::optional<Value> AskInRange(const CString& prompt, Value preset, const Range
     if (answer.isNone()) return preset;
     const auto value = get(answer);
     if (value >= range.from && value <= range.to) return static_cast<Value>(value);
-    Refuse(L"这个数值不在允许的范围内。",
-           NumberText(range.from) + L" 到 " + NumberText(range.to) + L" 之间的数值");
+    Refuse(L"这个数值不在允许的范围内。", NumberText(range.from, kRangeDecimals) + L" 到 " +
+                                              NumberText(range.to, kRangeDecimals) + L" 之间的数值");
   }
 }
 
@@ -39,6 +41,14 @@ std::optional<double> AskNumber(const CString& subject, double preset, const Ran
 std::optional<int> AskInteger(const CString& subject, int preset, const Range& range) {
   return AskInRange(subject + L" <" + ZP::itoa(preset) + L">:", preset, range, ed::AskInteger,
                     [](const ed::Answer& answer) { return answer.integer; });
+}
+
+std::optional<CString> AskOptionalText(const CString& subject, const CString& preset) {
+  const auto answer = ed::AskText({subject + L"，- 为无 <" + preset + L">:", {}, 0, {}});
+  if (answer.isCancelled()) return std::nullopt;
+  if (answer.isNone()) return preset;
+  const CString text = CString(answer.text).Trim();
+  return text == L"-" ? CString() : text;
 }
 
 CString NumberText(double value, int decimals) {

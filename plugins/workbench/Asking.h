@@ -20,8 +20,10 @@ struct Range {
 
 // subject is what is asked for, with its unit: "相对标高(m)".
 std::optional<double> AskNumber(const CString& subject, double preset, const Range& range);
-// The keyword question.prompt ends in its default; an empty answer is that of the caller to fill in.
 std::optional<int> AskInteger(const CString& subject, int preset, const Range& range);
+
+// A line of text, blanks at its ends cut off, that may be empty: "-" is typed for that.
+std::optional<CString> AskOptionalText(const CString& subject, const CString& preset);
 
 // A number as the prompts show it: at most decimals digits behind the point, no trailing zeros.
 CString NumberText(double value, int decimals = 3);

@@ -11,7 +11,9 @@ namespace {
 constexpr unsigned kDraws = ACRX_CMD_MODAL;
 
 constexpr CommandRow kTable[] = {
-    {L"WB_HZGG", L"绘制干管", kDraws, DrawMainPipe},
+    {L"WB_HZGG", L"绘制干管", kDraws, DrawMainPipe}, {L"WB_BZLG", L"布置立管", kDraws, PlaceRiser},
+    {L"WB_GXSX", L"管线属性", kDraws, EditPipe},     {L"WB_GXBZ", L"管线标注", kDraws, LabelPipe},
+    {L"WB_GJJS", L"管径计算", kDraws, SizePipe},
 };
 
 } // namespace

@@ -5,5 +5,9 @@
 namespace workbench {
 
 void DrawMainPipe(); // mains from point to point, with material, diameter and elevation
+void PlaceRiser();   // risers between two elevations
+void EditPipe();     // shows and changes the data of a pipe
+void LabelPipe();    // the label of a pipe beside it
+void SizePipe();     // the diameter for a flow, velocity and friction
 
 } // namespace workbench

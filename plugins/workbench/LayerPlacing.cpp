@@ -8,6 +8,7 @@
 #include "plugin/layers/LayerService.h"
 #include "plugin/pipes/attributes/CZPMainPipe.h"
 #include "plugins/workbench/Asking.h"
+#include "plugins/workbench/PipeQuestions.h"
 
 namespace workbench {
 namespace {
@@ -37,6 +38,15 @@ bool PrepareLayer(const CString& identifier) {
   if (layer->isOff()) acutPrintf(L"\n注意：图层“%s”已关闭。\n", name);
   if (layer->isFrozen()) acutPrintf(L"\n注意：图层“%s”已冻结。\n", name);
   return true;
+}
+
+bool AskPlacingLayer(const CString& preset, const wchar_t* const* usual, CString& identifier) {
+  while (true) {
+    const auto answer = AskLayerIdentifier(preset, usual);
+    if (!answer) return false;
+    identifier = *answer;
+    if (PrepareLayer(identifier)) return true;
+  }
 }
 
 AcDbObjectId AppendOnLayer(std::unique_ptr<AcDbEntity> entity, const CString& identifier) {

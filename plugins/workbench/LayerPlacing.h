@@ -15,6 +15,10 @@ namespace workbench {
 // of and will do.
 bool PrepareLayer(const CString& identifier);
 
+// Asks for an identifier as AskLayerIdentifier does until its layer can be drawn on, and prepares it. False
+// for Escape.
+bool AskPlacingLayer(const CString& preset, const wchar_t* const* usual, CString& identifier);
+
 // Takes the entity into the current space, on the identifier's layer and by layer in its looks. A null id,
 // with the reason told, when that can't be. The layer must be prepared.
 AcDbObjectId AppendOnLayer(std::unique_ptr<AcDbEntity> entity, const CString& identifier);

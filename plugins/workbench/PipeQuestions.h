@@ -3,7 +3,9 @@
 #pragma once
 
 #include "host/afx/CString.h"
+#include "host/ge/AcGePoint3d.h"
 #include "plugin/pipes/SZPPipeDNData.h"
+#include "plugins/workbench/Asking.h"
 
 #include <optional>
 
@@ -26,5 +28,14 @@ CString PipeNameOf(const CZPPipeMaterial& material, const SZPPipeDNData& row);
 // The identifier of a layer of the scheme; the layer's own name is taken for it, too. usual are identifiers
 // that "?" shows, up to a null; those that the scheme lacks are left out.
 std::optional<CString> AskLayerIdentifier(const CString& preset, const wchar_t* const* usual);
+
+// Of pipes above their floor, m.
+inline constexpr Range kElevations{-1000, 1000};
+
+// A plan is flat: what is drawn lies at z 0, and the elevation is an attribute. Pipes that meet in the plan
+// have one point in common then, whatever their elevations.
+inline AcGePoint3d OnPlan(const AcGePoint3d& point) {
+  return {point.x, point.y, 0};
+}
 
 } // namespace workbench

@@ -1,5 +1,5 @@
 // WB_HZGG: mains from point to point. Each segment is a line of its own, since each may have its own diameter
-// and elevation. A plan is flat: points lie at z 0, and the elevation is an attribute.
+// and elevation.
 #include "host/db/AcDbLine.h"
 #include "host/db/AcDbObjectPointer.h"
 #include "host/ed/AcApDocManager.h"
@@ -18,7 +18,6 @@ namespace {
 
 constexpr const wchar_t* kUsualLayers[] = {L"采暖供水干管", L"采暖回水干管", L"采暖供水支管", L"采暖回水支管",
                                            L"供水干管",     L"回水干管",     L"冷凝水干管",   nullptr};
-constexpr Range kElevations{-1000, 1000}; // m above the floor
 constexpr double kMillimetresInAMetre = 1000;
 
 struct MainPipe {
@@ -42,11 +41,8 @@ bool AskElevationOf(MainPipe& pipe) {
 
 // False for Escape.
 bool AskMainPipe(MainPipe& pipe) {
-  do {
-    const auto layer = AskLayerIdentifier(Remembered(L"干管\\图层标识", kUsualLayers[0]), kUsualLayers);
-    if (!layer) return false;
-    pipe.layer = *layer;
-  } while (!PrepareLayer(pipe.layer));
+  if (!AskPlacingLayer(Remembered(L"干管\\图层标识", kUsualLayers[0]), kUsualLayers, pipe.layer))
+    return false;
   pipe.material = AskMaterial(Remembered(L"干管\\管材", L""));
   if (!pipe.material) return false;
   pipe.diameter.dbNominal = Remembered(L"干管\\管径", 50);
@@ -72,10 +68,6 @@ AcDbObjectId AppendMainPipe(const AcGePoint3d& from, const AcGePoint3d& to, cons
   return id;
 }
 
-AcGePoint3d OnPlan(const AcGePoint3d& point) {
-  return {point.x, point.y, 0};
-}
-
 class Run {
  public:
   Run(MainPipe& pipe, const AcGePoint3d& start) : m_pipe(pipe), m_points{OnPlan(start)} {}
@@ -84,14 +76,14 @@ class Run {
   bool draw() {
     while (true) {
       const auto next = ed::AskPoint(
-          {L"指定下一点或 [管径(D)/标高(E)/放弃(U)]:", L"Diameter Elevation Undo", 0, m_points.back()});
+          {L"指定下一点或 [管径(D)/标高(E)/放弃(U)]:", L"管径,D 标高,E 放弃,U", 0, m_points.back()});
       if (next.isCancelled()) return false;
       if (next.isNone()) return true;
-      if (next.isKeyword(L"Diameter")) {
+      if (next.isKeyword(L"管径")) {
         if (!AskDiameterOf(m_pipe)) return false;
-      } else if (next.isKeyword(L"Elevation")) {
+      } else if (next.isKeyword(L"标高")) {
         if (!AskElevationOf(m_pipe)) return false;
-      } else if (next.isKeyword(L"Undo")) {
+      } else if (next.isKeyword(L"放弃")) {
         takeBack();
       } else {
         add(OnPlan(next.point));

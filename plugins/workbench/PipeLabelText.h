@@ -1,0 +1,12 @@
+// What is written beside a pipe.
+#pragma once
+
+#include "plugins/workbench/PickPipe.h"
+
+namespace workbench {
+
+// By the label scheme of the pipe's material; a riser's number stands ahead: "L3 DN25". A material that the
+// catalogue lacks is labelled by its diameter alone, "DN25".
+CString LabelTextOf(const PickedPipe& pipe);
+
+} // namespace workbench
