@@ -47,5 +47,6 @@ int main(int argc, char** argv) {
   addOwnPlugIn(options);
   commands::RegisterHostCommands();
   if (!options.console) return RunInWindow(options, programFolder(), argc, argv);
-  return console::RunConsole(options.job, std::cin, std::cout, isatty(STDIN_FILENO) != 0);
+  const ConsoleStreams streams{isatty(STDIN_FILENO) != 0, isatty(STDOUT_FILENO) != 0};
+  return console::RunConsole(options.job, std::cin, std::cout, streams);
 }

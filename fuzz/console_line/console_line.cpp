@@ -35,6 +35,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   ed::MatchesPattern(text.Left(200).View(), text.Left(200).View(), true);
   std::istringstream in(bytes);
   std::ostringstream out;
-  console::RunConsole({}, in, out, false);
+  console::RunConsole({}, in, out);
   return 0;
 }

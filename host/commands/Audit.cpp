@@ -4,6 +4,7 @@
 #include "host/db/AcDbDatabase.h"
 #include "host/ed/AcApDocManager.h"
 #include "host/ed/EdPrompts.h"
+#include "host/ed/LongTask.h"
 #include "host/ed/acutPrintf.h"
 
 #include <algorithm>
@@ -14,7 +15,12 @@ void Audit() {
   const auto answer = ed::AskKeyword({L"更正检测到的错误吗？[是(Y)/否(N)] <N>:", L"Yes No", 0, {}});
   if (answer.isCancelled()) return;
   const bool repair = answer.isKeyword(L"Yes");
-  const auto findings = acdbAudit(*curDoc()->database(), repair);
+  LongTask task(L"检查图形");
+  const auto findings = acdbAudit(*curDoc()->database(), repair, task.progress());
+  if (task.isCancelled()) {
+    acutPrintf(L"\n检查已取消，图形未改动。\n");
+    return;
+  }
   for (const AuditFinding& finding : findings)
     acutPrintf(L"\n%s%s", finding.text, finding.repaired ? L"：已更正" : L"");
   const auto repaired =

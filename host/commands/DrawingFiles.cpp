@@ -11,6 +11,7 @@
 #include "host/ed/EdPrompts.h"
 #include "host/ed/EdSession.h"
 #include "host/ed/EntitySearch.h"
+#include "host/ed/LongTask.h"
 #include "host/ed/SystemVariables.h"
 #include "host/ed/ViewState.h"
 #include "host/ed/acutPrintf.h"
@@ -56,16 +57,14 @@ void printLosses(const std::vector<CString>& losses) {
   if (!losses.empty()) acutPrintText(L"\n");
 }
 
-// The front end is told how far a long task is, and may end it.
-dxf::Progress progressOf(const wchar_t* task) {
-  auto* frontEnd = EdSession::instance().frontEnd();
-  if (!frontEnd) return {};
-  return [frontEnd, task](double done) { return frontEnd->showProgress(task, done); };
-}
-
 bool write(AcApDocument& document, const CString& path) {
   ed::FileView(document);
-  const auto report = dxf::WriteDrawing(*document.database(), path, {{}, progressOf(L"存图")});
+  LongTask task(L"存图");
+  const auto report = dxf::WriteDrawing(*document.database(), path, {{}, task.progress()});
+  if (task.isCancelled()) {
+    acutPrintf(L"\n存图已取消，没有保存；文件 %s 未改动。\n", path);
+    return false;
+  }
   if (!report.ok) {
     EdSession::instance().refuse(report.error, L"可写的文件夹和文件名；原文件未改动");
     return false;
@@ -121,8 +120,13 @@ bool OpenDrawing(const CString& path, bool recover) {
   dxf::ReadReport report;
   dxf::ReadOptions options;
   options.recover = recover;
-  options.progress = progressOf(L"读图");
+  LongTask task(L"读图");
+  options.progress = task.progress();
   auto* document = acDocManager->openDocument(path, report, options);
+  if (task.isCancelled() && !document) {
+    acutPrintf(L"\n读图已取消，没有打开 %s。\n", path);
+    return false;
+  }
   if (!document) {
     session.refuse(report.error,
                    recover ? L"图形文件（DXF）" : L"完好的图形文件；损坏的文件可用 RECOVER 抢救");

@@ -12,6 +12,7 @@
 #include "host/ed/EdLineParser.h"
 #include "host/ed/EdPrompts.h"
 #include "host/ed/EdSession.h"
+#include "host/ed/LongTask.h"
 #include "host/ed/acutPrintf.h"
 #include "host/plot/FontMetrics.h"
 #include "host/plot/PaperSizes.h"
@@ -161,7 +162,13 @@ void Export() {
   const scene::Scene picture = scene::BuildScene(database, job.space, sceneOptions);
   job.options.title = document.docTitle();
   job.options.date = DrawingDate(database);
+  LongTask task(L"输出");
+  job.options.progress = task.progress();
   const plot::PlotResult result = plot::Plot(picture, job.format, job.options);
+  if (task.isCancelled()) {
+    acutPrintf(L"\n输出已取消；文件 %s 未改动。\n", job.path);
+    return;
+  }
   if (!result.ok) return refuse(L"“" + job.path + L"”未输出。" + result.error, L"较小的图纸或范围");
   const auto written = afx::WriteFileAtomically(job.path, result.bytes);
   if (!written.ok) return refuse(written.message, L"可写的文件夹和文件名；原文件未改动");

@@ -1,9 +1,11 @@
 #include "host/console/ConsoleFrontEnd.h"
 
+#include "host/console/Interrupt.h"
 #include "host/ed/EdLineParser.h"
 #include "host/ed/EdLineSource.h"
 #include "host/ed/EdSession.h"
 
+#include <cstdio>
 #include <istream>
 #include <ostream>
 #include <string>
@@ -11,6 +13,7 @@
 // Names in drawings may hold anything; nothing of it may command the terminal or break the encoding.
 void ConsoleFrontEnd::write(const CString& text) {
   if (text.IsEmpty()) return;
+  eraseProgress();
   std::wstring shown(text.View());
   for (wchar_t& c : shown)
     if ((c < 0x20 && c != L'\n' && c != L'\t') || (c >= 0x7F && c < 0xA0) || (c >= 0xD800 && c < 0xE000))
@@ -33,25 +36,86 @@ void ConsoleFrontEnd::print(const CString& text) {
   }
 }
 
-std::optional<CString> ConsoleFrontEnd::readLine(const CString& prompt) {
-  if (m_interactive) {
-    freshLine();
-    write(prompt + L" ");
-  }
-  m_out.flush();
+// False at the end of the input, or where an interrupt has broken it off.
+bool ConsoleFrontEnd::takeTyped(std::string& line) {
   // One byte more than a line may have tells a long line from one that just fits; the rest of it is passed
   // over.
-  std::string line;
   bool any = false;
   for (int c = m_in.get(); c != std::istream::traits_type::eof(); c = m_in.get()) {
     any = true;
     if (c == '\n') break;
     if (line.size() <= kEdLineLimit) line.push_back(static_cast<char>(c));
   }
-  if (!any) return std::nullopt;
-  if (m_interactive) m_atLineStart = true;
   if (line.ends_with('\r')) line.pop_back();
-  return CString::FromUtf8(line);
+  return any && !Interrupt::IsPending();
+}
+
+// At a prompt it is Escape. Pressed again at the command prompt it means the program, which asks about
+// unsaved work as always.
+CString ConsoleFrontEnd::afterInterrupt() {
+  m_in.clear();
+  std::clearerr(stdin);
+  const bool idle = EdSession::instance().commandDepth() == 0;
+  if (idle && m_endsNext) return L"QUIT";
+  m_endsNext = idle;
+  write(L"\n");
+  if (idle) write(L"（再按一次 Ctrl+C 或输入 QUIT 退出）\n");
+  return L"*cancel*";
+}
+
+std::optional<CString> ConsoleFrontEnd::readLine(const CString& prompt) {
+  if (m_interrupted) return std::nullopt;
+  if (m_interactive) {
+    freshLine();
+    write(prompt + L" ");
+  }
+  m_out.flush();
+  std::string line;
+  if (takeTyped(line)) {
+    m_endsNext = false;
+    if (m_interactive) m_atLineStart = true;
+    return CString::FromUtf8(line);
+  }
+  if (!Interrupt::Take()) return std::nullopt;
+  if (m_interactive) return afterInterrupt();
+  m_interrupted = true;
+  return std::nullopt;
+}
+
+bool ConsoleFrontEnd::takeInterrupt() {
+  if (!Interrupt::Take()) return false;
+  m_interrupted = !m_interactive;
+  return true;
+}
+
+bool ConsoleFrontEnd::showProgress(const CString& task, double done) {
+  using namespace std::chrono;
+  constexpr auto kUnseen = milliseconds(500); // what is done sooner needs no line
+  constexpr auto kBetween = milliseconds(100);
+  const auto now = steady_clock::now();
+  if (!m_taskBegan) m_taskBegan = now;
+  if (m_showsProgress && now - *m_taskBegan >= kUnseen && now - m_lastShown >= kBetween) {
+    if (!m_progressStands) freshLine();
+    CString text;
+    text.Format(L"%s：%d%%（Ctrl+C 取消）", task, static_cast<int>(done * 100));
+    m_out << '\r' << text.ToUtf8();
+    m_out.flush();
+    m_lastShown = now;
+    m_progressStands = true;
+  }
+  // The interrupt stays: the next line that is wanted is Escape as well, and scripts end.
+  return !Interrupt::IsPending();
+}
+
+void ConsoleFrontEnd::eraseProgress() {
+  constexpr char kEraseLine[] = "\r\033[K";
+  if (m_progressStands) m_out << kEraseLine;
+  m_progressStands = false;
+}
+
+void ConsoleFrontEnd::progressEnded() {
+  eraseProgress();
+  m_taskBegan.reset();
 }
 
 void ConsoleFrontEnd::echo(const CString& prompt, const CString& line, bool typed) {

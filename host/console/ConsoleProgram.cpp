@@ -2,6 +2,7 @@
 
 #include "host/afx/AtomicFile.h"
 #include "host/console/ConsoleFrontEnd.h"
+#include "host/console/Interrupt.h"
 #include "host/ed/AcApDocManager.h"
 #include "host/ed/AcRxDynamicLinker.h"
 #include "host/ed/EdSession.h"
@@ -58,8 +59,9 @@ bool pushScript(const CString& path, ConsoleFrontEnd& frontEnd) {
 
 } // namespace
 
-int RunConsole(const ConsoleJob& job, std::istream& in, std::ostream& out, bool interactive) {
-  ConsoleFrontEnd frontEnd(in, out, interactive);
+int RunConsole(const ConsoleJob& job, std::istream& in, std::ostream& out, ConsoleStreams streams) {
+  const Interrupt interrupt;
+  ConsoleFrontEnd frontEnd(in, out, streams);
   const SessionScope scope(frontEnd);
   auto& session = EdSession::instance();
   acDocManager->newDocument();
@@ -70,7 +72,7 @@ int RunConsole(const ConsoleJob& job, std::istream& in, std::ostream& out, bool 
   if (job.script && !pushScript(*job.script, frontEnd)) return kUnusable;
   session.run();
   if (!session.quitRequested()) tellUnsaved(frontEnd);
-  return session.refusedLines() > 0 ? kLineRefused : kDone;
+  return session.refusedLines() > 0 || frontEnd.wasInterrupted() ? kLineRefused : kDone;
 }
 
 } // namespace console

@@ -1,7 +1,7 @@
 // One run of the program at the console, from its options to its exit status.
 #pragma once
 
-#include "host/afx/CString.h"
+#include "host/console/ConsoleFrontEnd.h"
 
 #include <iosfwd>
 #include <optional>
@@ -20,7 +20,8 @@ inline constexpr int kLineRefused = 1;
 inline constexpr int kUnusable = 2; // a bad option, or a file that can't be read
 
 // Opens the drawing (or a new one), runs the lines and closes everything. The commands of the host must be
-// registered.
-int RunConsole(const ConsoleJob& job, std::istream& in, std::ostream& out, bool interactive);
+// registered. While it runs, SIGINT cancels what the editor does, as Escape; where nobody types, the input
+// ends with it and the status is that of a refused line.
+int RunConsole(const ConsoleJob& job, std::istream& in, std::ostream& out, ConsoleStreams streams = {});
 
 } // namespace console

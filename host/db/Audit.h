@@ -5,6 +5,7 @@
 #include "host/afx/CString.h"
 #include "host/db/AcDbObjectId.h"
 
+#include <functional>
 #include <vector>
 
 enum class AuditCheck {
@@ -31,4 +32,7 @@ struct AuditFinding {
 
 // With repair every finding that can be is repaired, as one would by hand: undo takes it back. Without it the
 // drawing stays as it is. A second audit finds what the first could not repair, and nothing else.
-std::vector<AuditFinding> acdbAudit(AcDbDatabase& database, bool repair);
+// progress is told how much is done, 0 to 1; giving false ends the audit with what was found and repaired by
+// then.
+std::vector<AuditFinding> acdbAudit(AcDbDatabase& database, bool repair,
+                                    const std::function<bool(double)>& progress = {});

@@ -46,8 +46,13 @@ class EdFrontEnd {
   virtual void lineRefused(const EdRefusal& refusal) = 0;
 
   // A long task, such as 读图, is so far done, 0 to 1. False cancels it; the drawing and its file are then as
-  // before.
+  // before. Tasks are told of by LongTask.
   virtual bool showProgress(const CString& /*task*/, double /*done*/) { return true; }
+  // The task that was told of last is done, or given up.
+  virtual void progressEnded() {}
+  // Whether the user has cancelled what runs, since this was asked last, without a line that says so: by an
+  // interrupt of the terminal. Asked ahead of each line; what is left of scripts is left out then.
+  virtual bool takeInterrupt() { return false; }
   // The document's picture is to be drawn anew.
   virtual void regenerate(AcApDocument&) {}
   // Whatever is still to be drawn is to be drawn before the program goes on.

@@ -41,7 +41,18 @@ void EdInput::clear() {
   m_last = {};
 }
 
+// As if Escape had been typed: nothing that waits to be read is read any more.
+EdInput::Fetched EdInput::cancelAll() {
+  for (auto& source : m_sources) {
+    source.lines->abandon();
+    source.unread.reset();
+  }
+  m_typedUnread.reset();
+  return {{L"*cancel*", CString(), 0, true}, true, false};
+}
+
 std::optional<EdInput::Fetched> EdInput::fetch(const CString& prompt) {
+  if (m_frontEnd && m_frontEnd->takeInterrupt()) return cancelAll();
   for (std::size_t at = m_sources.size(); at-- > 0;) {
     auto& source = m_sources[at];
     if (source.passedOver > 0) continue;

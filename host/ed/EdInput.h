@@ -74,6 +74,7 @@ class EdInput {
     std::optional<Fetched> unread;
     int passedOver = 0; // by how many UserOnly
   };
+  Fetched cancelAll();
   std::optional<Fetched> fetch(const CString& prompt);
   std::optional<Fetched> fetchNoComment(const CString& prompt, bool freeText);
   EdLine take(const CString& prompt, const Fetched& fetched);

@@ -85,7 +85,11 @@ PlotResult Plot(const scene::Scene& scene, Format format, const PlotOptions& opt
   const double unit = format == Format::png ? result.dotsPerInch / kMillimetresPerInch : kPointsPerMillimetre;
   cairo_scale(target.get(), unit, unit);
   const double finest = format == Format::png ? 1 / unit : kFinestOnPaper;
-  ScenePainter(target.get(), scene, result.page, finest).paint();
+  if (!ScenePainter(target.get(), scene, result.page, finest).paint(options.progress)) {
+    result.bytes.clear();
+    result.error = L"已取消";
+    return result;
+  }
   cairo_show_page(target.get());
   cairo_status_t status = cairo_status(target.get());
   target.reset();

@@ -5,6 +5,7 @@
 #include "host/plot/PageLayout.h"
 #include "host/scene/Scene.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -22,6 +23,8 @@ struct PlotOptions {
   // When the drawing was last changed, as "2024-05-01T12:00:00Z", for the file's own record; may be empty.
   // The time of plotting is written nowhere, so that the same drawing gives the same bytes.
   CString date;
+  // Told how much is done, 0 to 1; giving false cancels the plot.
+  std::function<bool(double)> progress;
 };
 
 struct PlotResult {

@@ -15,6 +15,7 @@ namespace {
 
 constexpr double kFar = 10'000; // millimetres off the page that painting can still hold
 constexpr std::size_t kMostDashes = 100'000;
+constexpr std::size_t kGroupsBetweenProgress = 256;
 constexpr scene::Rgb kPaper{255, 255, 255};
 
 } // namespace
@@ -25,16 +26,22 @@ ScenePainter::ScenePainter(cairo_t* target, const scene::Scene& scene, const Pag
   m_visible = page.area;
 }
 
-void ScenePainter::paint() {
+bool ScenePainter::paint(const std::function<bool(double)>& progress) {
   setColor({{}, scene::Color::Kind::background, 255});
   cairo_paint(m_target);
   cairo_save(m_target);
   cairo_set_line_cap(m_target, CAIRO_LINE_CAP_ROUND);
   cairo_set_line_join(m_target, CAIRO_LINE_JOIN_ROUND);
   cairo_set_fill_rule(m_target, CAIRO_FILL_RULE_EVEN_ODD);
-  for (const scene::Group& group : m_scene.groups) paintGroup(group);
+  bool goesOn = true;
+  for (std::size_t i = 0; i < m_scene.groups.size() && goesOn; ++i) {
+    if (progress && i % kGroupsBetweenProgress == 0)
+      goesOn = progress(static_cast<double>(i) / static_cast<double>(m_scene.groups.size()));
+    if (goesOn) paintGroup(m_scene.groups[i]);
+  }
   setClip(scene::Primitive::kNone);
   cairo_restore(m_target);
+  return goesOn;
 }
 
 void ScenePainter::paintGroup(const scene::Group& group) {

@@ -5,13 +5,16 @@
 #include "host/plot/PageLayout.h"
 #include "host/scene/Scene.h"
 
+#include <functional>
+
 namespace plot {
 
 class ScenePainter {
  public:
   // The target's unit is a millimetre, its origin the page's upper left corner. finest is the thinnest line.
   ScenePainter(cairo_t* target, const scene::Scene& scene, const Page& page, double finest);
-  void paint();
+  // False when progress, told how much is done, has ended it.
+  bool paint(const std::function<bool(double)>& progress = {});
 
  private:
   void paintGroup(const scene::Group& group);

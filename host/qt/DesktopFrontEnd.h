@@ -17,6 +17,9 @@ class DesktopView {
   // The editor waits for an answer to the prompt.
   virtual void promptOpened(const CString& prompt) = 0;
   virtual EdBoxResult ask(const EdMessageBox& box) = 0;
+  // See EdFrontEnd::showProgress.
+  virtual bool showTask(const CString& task, double done) = 0;
+  virtual void endTask() = 0;
   virtual void redraw() = 0;        // the drawing, from the database
   virtual void redrawOverlay() = 0; // what is shown over it
   virtual void viewMoved() = 0;
@@ -35,6 +38,8 @@ class DesktopFrontEnd : public EdFrontEnd {
   void print(const CString& text) override { m_view.show(text, DesktopView::Tone::said); }
   EdBoxResult messageBox(const EdMessageBox& box) override { return m_view.ask(box); }
   void lineRefused(const EdRefusal& refusal) override;
+  bool showProgress(const CString& task, double done) override { return m_view.showTask(task, done); }
+  void progressEnded() override { m_view.endTask(); }
   void regenerate(AcApDocument&) override { m_view.redraw(); }
   void viewChanged(AcApDocument&) override { m_view.viewMoved(); }
   std::optional<double> viewAspect() override { return m_view.aspect(); }

@@ -19,6 +19,9 @@ class ScriptedFrontEnd : public EdFrontEnd {
   std::vector<CString> prompts;    // of all lines that were echoed
   int regenerations = 0;
   bool cancelsTasks = false;
+  int tasksTold = 0;
+  int tasksEnded = 0;
+  bool interrupts = false; // ahead of the next line
   std::optional<double> aperture;
   std::function<void()> beforeLine; // what the user does with the mouse before the next line
   std::function<void()> onTransients;
@@ -44,7 +47,12 @@ class ScriptedFrontEnd : public EdFrontEnd {
     return {answer, true};
   }
   void lineRefused(const EdRefusal& refusal) override { refusals.push_back(refusal); }
-  bool showProgress(const CString&, double) override { return !cancelsTasks; }
+  bool showProgress(const CString&, double) override {
+    ++tasksTold;
+    return !cancelsTasks;
+  }
+  void progressEnded() override { ++tasksEnded; }
+  bool takeInterrupt() override { return std::exchange(interrupts, false); }
   void regenerate(AcApDocument&) override { ++regenerations; }
   void transientsChanged() override {
     if (onTransients) onTransients();

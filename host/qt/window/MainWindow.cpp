@@ -9,6 +9,7 @@
 #include "host/qt/window/CommandEdit.h"
 #include "host/qt/window/CommandPanel.h"
 #include "host/qt/window/RecentFiles.h"
+#include "host/qt/window/TaskBar.h"
 
 #include <QCloseEvent>
 #include <QSettings>
@@ -133,6 +134,14 @@ void MainWindow::promptOpened(const CString& prompt) {
 
 EdBoxResult MainWindow::ask(const EdMessageBox& box) {
   return ShowEditorBox(this, box);
+}
+
+bool MainWindow::showTask(const CString& task, double done) {
+  return m_task->tell(ToQt(task), done);
+}
+
+void MainWindow::endTask() {
+  m_task->end();
 }
 
 void MainWindow::redraw() {

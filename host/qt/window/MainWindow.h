@@ -19,6 +19,7 @@ namespace desktop {
 class Canvas;
 class CommandPanel;
 class RecentFiles;
+class TaskBar;
 
 class MainWindow : public QMainWindow, public DesktopView, private AcApDocManagerReactor {
  public:
@@ -29,6 +30,7 @@ class MainWindow : public QMainWindow, public DesktopView, private AcApDocManage
   Canvas& canvas() { return *m_canvas; }
   CommandPanel& panel() { return *m_panel; }
   QTabBar& tabs() { return *m_tabs; }
+  TaskBar& task() { return *m_task; }
   // Runs a command line by line once nothing else runs, as if it were typed.
   void runLines(std::initializer_list<const wchar_t*> lines);
   // Opens a file without asking for its name.
@@ -43,6 +45,8 @@ class MainWindow : public QMainWindow, public DesktopView, private AcApDocManage
   using QMainWindow::show;
   void promptOpened(const CString& prompt) override;
   EdBoxResult ask(const EdMessageBox& box) override;
+  bool showTask(const CString& task, double done) override;
+  void endTask() override;
   void redraw() override;
   void redrawOverlay() override;
   void viewMoved() override;
@@ -83,6 +87,7 @@ class MainWindow : public QMainWindow, public DesktopView, private AcApDocManage
   Canvas* m_canvas = nullptr;
   CommandPanel* m_panel = nullptr;
   RecentFiles* m_recent = nullptr;
+  TaskBar* m_task = nullptr;
   QLabel* m_coordinates = nullptr;
   QLabel* m_layer = nullptr;
   QToolButton* m_snap = nullptr;

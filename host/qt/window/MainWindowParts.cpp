@@ -14,6 +14,7 @@
 #include "host/qt/window/MainWindow.h"
 #include "host/qt/window/PromptMenu.h"
 #include "host/qt/window/RecentFiles.h"
+#include "host/qt/window/TaskBar.h"
 
 #include <QKeyEvent>
 #include <QLabel>
@@ -98,6 +99,8 @@ void MainWindow::buildStatusBar() {
     return button;
   };
   statusBar()->addWidget(m_coordinates);
+  m_task = new TaskBar(this);
+  statusBar()->addWidget(m_task);
   m_snap = addToggle(QStringLiteral("对象捕捉"), QStringLiteral("对象捕捉（F3）"), L"OSMODE", ed::kSnapOff);
   m_ortho = addToggle(QStringLiteral("正交"), QStringLiteral("正交（F8）"), L"ORTHOMODE", 1);
   statusBar()->addPermanentWidget(m_layer);

@@ -53,14 +53,39 @@ TEST_F(FileCommands, ALongTaskCanBeCancelled) {
   frontEnd.cancelsTasks = true;
   add(new AcDbPoint(AcGePoint3d(0, 1, 0)));
   run(L"SAVE");
-  EXPECT_TRUE(refused());
-  EXPECT_TRUE(reason().Find(L"存图已取消") >= 0) << reason().ToUtf8();
+  EXPECT_TRUE(frontEnd.said(L"存图已取消"));
   EXPECT_EQ(whole, read(file("a.dxf")));
   EXPECT_TRUE(database().isModified());
   write(file("b.dxf"), whole);
+  const auto* before = curDoc();
   run(L"OPEN", {file("b.dxf")});
-  EXPECT_TRUE(reason().Find(L"读图已取消") >= 0) << reason().ToUtf8();
+  EXPECT_TRUE(frontEnd.said(L"读图已取消"));
+  EXPECT_EQ(before, curDoc());
   EXPECT_EQ(1u, acDocManager->documentCount());
+  run(L"AUDIT", {L"N"});
+  EXPECT_TRUE(frontEnd.said(L"检查已取消"));
+  run(L"EXPORT", {file("a.pdf"), L"", L""});
+  EXPECT_TRUE(frontEnd.said(L"输出已取消"));
+  EXPECT_FALSE(fs::exists(file("a.pdf").ToUtf8()));
+  EXPECT_FALSE(refused());
+}
+
+TEST_F(FileCommands, TheEndOfALongTaskIsTold) {
+  run(L"AUDIT", {L"N"});
+  EXPECT_GT(frontEnd.tasksTold, 0);
+  EXPECT_EQ(1, frontEnd.tasksEnded);
+}
+
+TEST_F(FileCommands, AScriptEndsWithTheTaskThatIsCancelled) {
+  for (int i = 0; i < 5000; ++i) add(new AcDbPoint(AcGePoint3d(i, 0, 0)));
+  run(L"SAVEAS", {file("a.dxf")});
+  add(new AcDbPoint(AcGePoint3d(0, 1, 0)));
+  write(file("s.scr"), "SAVE\nERASE\nall\n\n");
+  frontEnd.cancelsTasks = true;
+  frontEnd.type({L"SCRIPT", file("s.scr")});
+  EdSession::instance().run();
+  EXPECT_TRUE(frontEnd.said(L"存图已取消"));
+  EXPECT_EQ(5001u, entityCount());
 }
 
 TEST_F(FileCommands, SaveAsksForANameWhereThereIsNone) {

@@ -120,7 +120,7 @@ class ConsoleDialogs : public testing::Test {
   std::string Run(const std::string& input) {
     std::istringstream in(input);
     std::ostringstream out;
-    status = console::RunConsole({}, in, out, false);
+    status = console::RunConsole({}, in, out);
     return out.str();
   }
   int status = -1;

@@ -4,15 +4,22 @@
 #include "host/ed/AcApDocManager.h"
 #include "host/ed/AcEdCommandStack.h"
 #include "host/ed/EdSession.h"
+#include "host/ed/LongTask.h"
 #include "host/ed/acedPrompts.h"
 #include "host/ed/acutPrintf.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <csignal>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iostream>
+#include <poll.h>
+#include <pty.h>
 #include <sstream>
+#include <sys/wait.h>
 #include <unistd.h>
 
 using ::testing::HasSubstr;
@@ -42,7 +49,7 @@ class Console : public ::testing::Test {
   std::string run(const std::string& input, ConsoleJob job = {}, bool interactive = false) {
     std::istringstream in(input);
     std::ostringstream out;
-    status = console::RunConsole(job, in, out, interactive);
+    status = console::RunConsole(job, in, out, {interactive});
     return out.str();
   }
   std::string runScript(const std::string& bytes) {
@@ -201,4 +208,134 @@ TEST_F(Console, NothingOfOneRunReachesTheNext) {
   EXPECT_EQ("", run(""));
   EXPECT_EQ(console::kDone, status);
   EXPECT_EQ(0u, acDocManager->documentCount());
+}
+
+namespace {
+
+void interruptItself() {
+  std::raise(SIGINT);
+  ads_point point;
+  acutPrintf(L"\n[%d]\n", acedGetPoint(nullptr, L"\n指定点:", point) == RTCAN);
+}
+
+// Counts to ten unless it is cancelled.
+void longTask() {
+  LongTask task(L"数数");
+  int count = 0;
+  while (count < 10 && task.advance(count / 10.0))
+    if (++count == 3) std::raise(SIGINT);
+  acutPrintf(L"\n[数到 %d]\n", count);
+}
+
+} // namespace
+
+TEST_F(Console, AnInterruptIsEscapeForWhoTypes) {
+  acedRegCmds->addCommand(L"TEST", L"INTERRUPTED", L"INTERRUPTED", ACRX_CMD_MODAL, interruptItself);
+  const auto output = run("INTERRUPTED\nID\n1,2\n", {}, true);
+  EXPECT_THAT(output, HasSubstr("[1]"));
+  EXPECT_THAT(output, HasSubstr("X = 1")) << "the next line is read as always";
+  EXPECT_EQ(console::kDone, status);
+}
+
+TEST_F(Console, AnInterruptEndsALongTaskAndTheScriptBehindIt) {
+  acedRegCmds->addCommand(L"TEST", L"COUNT", L"COUNT", ACRX_CMD_MODAL, longTask);
+  write("count.scr", "COUNT\nID\n3,4\n");
+  const auto output = run("SCRIPT\n" + path("count.scr") + "\nID\n1,2\n", {}, true);
+  EXPECT_THAT(output, HasSubstr("[数到 3]"));
+  EXPECT_THAT(output, Not(HasSubstr("X = 3")));
+  EXPECT_THAT(output, HasSubstr("X = 1"));
+}
+
+TEST_F(Console, AnInterruptEndsInputThatNobodyTypes) {
+  acedRegCmds->addCommand(L"TEST", L"COUNT", L"COUNT", ACRX_CMD_MODAL, longTask);
+  const auto output = run("LINE\n0,0\n1,1\n\nCOUNT\nERASE\nall\n\n");
+  EXPECT_THAT(output, HasSubstr("[数到 3]"));
+  EXPECT_THAT(output, Not(HasSubstr("ERASE")));
+  EXPECT_THAT(output, HasSubstr("的修改没有保存"));
+  EXPECT_EQ(console::kLineRefused, status);
+  EXPECT_THAT(runScript("COUNT\nID\n3,4\n"), Not(HasSubstr("X = 3")));
+  EXPECT_EQ(console::kLineRefused, status);
+}
+
+TEST_F(Console, AfterwardsAnInterruptIsWhatItWasBefore) {
+  struct sigaction before {};
+  sigaction(SIGINT, nullptr, &before);
+  run("");
+  struct sigaction after {};
+  sigaction(SIGINT, nullptr, &after);
+  EXPECT_EQ(before.sa_handler, after.sa_handler);
+}
+
+namespace {
+
+// The console in a process of its own at a terminal that the test holds.
+class Terminal {
+ public:
+  Terminal() {
+    m_child = forkpty(&m_master, nullptr, nullptr, nullptr);
+    if (m_child != 0) return;
+    commands::RegisterHostCommands();
+    std::_Exit(console::RunConsole({}, std::cin, std::cout, {true, true}));
+  }
+  ~Terminal() {
+    if (m_child > 0) {
+      kill(m_child, SIGKILL);
+      waitpid(m_child, nullptr, 0);
+    }
+    close(m_master);
+  }
+  void type(const std::string& text) { EXPECT_GT(::write(m_master, text.data(), text.size()), 0); }
+  // Waits until the text is shown behind what was waited for before.
+  bool shows(const std::string& text) {
+    for (;;) {
+      const auto found = m_shown.find(text);
+      if (found != std::string::npos) {
+        m_shown.erase(0, found + text.size());
+        return true;
+      }
+      pollfd ready{m_master, POLLIN, 0};
+      constexpr int kPatience = 20'000; // milliseconds
+      char bytes[4096];
+      if (poll(&ready, 1, kPatience) != 1) return false;
+      const auto count = ::read(m_master, bytes, sizeof bytes);
+      if (count <= 0) return false;
+      m_shown.append(bytes, static_cast<std::size_t>(count));
+    }
+  }
+  int exitStatus() {
+    int raw = 0;
+    waitpid(std::exchange(m_child, -1), &raw, 0);
+    return WIFEXITED(raw) ? WEXITSTATUS(raw) : -1;
+  }
+
+ private:
+  int m_master = -1;
+  pid_t m_child = -1;
+  std::string m_shown;
+};
+
+constexpr char kInterruptKey[] = "\x03";
+
+} // namespace
+
+TEST(ConsoleAtATerminal, CtrlCCancelsThePromptAndTheSecondAtTheCommandPromptEnds) {
+  Terminal terminal;
+  ASSERT_TRUE(terminal.shows("命令: "));
+  terminal.type("LINE\n0,0\n");
+  ASSERT_TRUE(terminal.shows("指定下一点"));
+  terminal.type(kInterruptKey);
+  ASSERT_TRUE(terminal.shows("*取消*"));
+  ASSERT_TRUE(terminal.shows("命令: "));
+  terminal.type(kInterruptKey);
+  ASSERT_TRUE(terminal.shows("再按一次 Ctrl+C"));
+  ASSERT_TRUE(terminal.shows("命令: "));
+  terminal.type("ID\n1,2\n");
+  ASSERT_TRUE(terminal.shows("X = 1"));
+  ASSERT_TRUE(terminal.shows("命令: "));
+  terminal.type(kInterruptKey);
+  ASSERT_TRUE(terminal.shows("再按一次 Ctrl+C")) << "a line between them makes the next one the first again";
+  ASSERT_TRUE(terminal.shows("命令: "));
+  terminal.type(kInterruptKey);
+  EXPECT_FALSE(terminal.shows("命令: "));
+  EXPECT_EQ(console::kDone, terminal.exitStatus());
 }

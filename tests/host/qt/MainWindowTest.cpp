@@ -1,6 +1,8 @@
 #include "host/db/AcDbCurves.h"
+#include "host/ed/LongTask.h"
 #include "host/qt/window/CommandTitles.h"
 #include "host/qt/window/PromptMenu.h"
+#include "host/qt/window/TaskBar.h"
 #include "tests/host/qt/Desktop.h"
 
 #include <QAbstractButton>
@@ -8,6 +10,8 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QPushButton>
+#include <QWheelEvent>
 
 namespace {
 
@@ -155,3 +159,106 @@ TEST(PromptOptions, AreTheWordsInTheBracketsOfAPrompt) {
 }
 
 } // namespace
+
+namespace {
+
+desktop::MainWindow* g_window = nullptr;
+std::function<void(desktop::MainWindow&)> g_meanwhile; // what the user does once the task is shown
+double g_reached = 0;
+
+// Takes five seconds unless it is cancelled.
+void longTask() {
+  LongTask task(L"数数");
+  QElapsedTimer timer;
+  timer.start();
+  for (g_reached = 0; g_reached < 1 && task.advance(g_reached);
+       g_reached = static_cast<double>(timer.elapsed()) / 5000) {
+    QTest::qSleep(5);
+    if (g_meanwhile && g_window->task().isVisible()) std::exchange(g_meanwhile, nullptr)(*g_window);
+  }
+}
+
+class LongTasks : public Desktop {
+ protected:
+  LongTasks() {
+    g_window = window.get();
+    g_reached = 0;
+    acedRegCmds->addCommand(L"TEST", L"COUNT", L"COUNT", ACRX_CMD_MODAL, longTask);
+  }
+  ~LongTasks() override { g_meanwhile = nullptr; }
+};
+
+} // namespace
+
+TEST_F(LongTasks, TheButtonCancelsThem) {
+  g_meanwhile = [](desktop::MainWindow& shown) {
+    EXPECT_EQ(QStringLiteral("数数"), shown.task().findChild<QLabel*>()->text());
+    QTest::mouseClick(&shown.task().cancelButton(), Qt::LeftButton);
+  };
+  run({[&] { enter("count"); }});
+  EXPECT_GT(g_reached, 0);
+  EXPECT_LT(g_reached, 1);
+  EXPECT_FALSE(window->task().isVisible());
+}
+
+TEST_F(LongTasks, EscapeCancelsThem) {
+  g_meanwhile = [this](desktop::MainWindow&) { key(Qt::Key_Escape); };
+  run({[&] { enter("count"); }});
+  EXPECT_LT(g_reached, 1);
+}
+
+TEST_F(LongTasks, NothingElseIsTakenMeanwhile) {
+  const AcGePoint2d centre = canvas().map().centre;
+  g_meanwhile = [&](desktop::MainWindow& shown) {
+    QWheelEvent wheel({10, 10}, canvas().mapToGlobal(QPointF(10, 10)), {}, {0, 120}, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&canvas(), &wheel);
+    type("line");
+    shown.close();
+    EXPECT_TRUE(shown.isVisible());
+    key(Qt::Key_Escape);
+  };
+  run({[&] { enter("count"); }, [&] { EXPECT_TRUE(edit().text().isEmpty()); }});
+  EXPECT_EQ(centre, canvas().map().centre);
+  EXPECT_FALSE(EdSession::instance().quitRequested());
+}
+
+TEST_F(LongTasks, TheWindowIsPaintedMeanwhile) {
+  struct Paints : QObject {
+    int count = 0;
+    bool eventFilter(QObject*, QEvent* event) override {
+      count += event->type() == QEvent::Paint;
+      return false;
+    }
+  } paints;
+  canvas().installEventFilter(&paints);
+  int before = 0;
+  g_meanwhile = [&](desktop::MainWindow&) {
+    before = paints.count;
+    canvas().update();
+    QTimer::singleShot(150, &canvas(), [&] { key(Qt::Key_Escape); });
+  };
+  run({[&] { enter("count"); }});
+  EXPECT_GT(paints.count, before);
+  EXPECT_LT(g_reached, 1);
+}
+
+TEST_F(LongTasks, AnOpenThatIsCancelledLeavesEverythingAsItWas) {
+  std::string text = "0\nSECTION\n2\nENTITIES\n";
+  for (int i = 0; i < 600'000; ++i) text += "0\nPOINT\n8\n0\n10\n1.0\n20\n2.0\n30\n0.0\n";
+  text += "0\nENDSEC\n0\nEOF\n";
+  QFile file(folder.filePath(QStringLiteral("large.dxf")));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write(text.data(), static_cast<qint64>(text.size()));
+  file.close();
+  const auto* before = curDoc();
+  QTimer escape; // comes as soon as the window looks at its events
+  QObject::connect(&escape, &QTimer::timeout, [&] {
+    if (window->task().isRunning()) key(Qt::Key_Escape);
+  });
+  escape.start(0);
+  run({[&] { window->openFile(desktop::FromQt(file.fileName())); }});
+  EXPECT_EQ(before, curDoc());
+  EXPECT_EQ(1u, acDocManager->documentCount());
+  EXPECT_NE(std::string::npos, said().find("读图已取消")) << said();
+}
