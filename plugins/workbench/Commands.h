@@ -9,5 +9,12 @@ void PlaceRiser();   // risers between two elevations
 void EditPipe();     // shows and changes the data of a pipe
 void LabelPipe();    // the label of a pipe beside it
 void SizePipe();     // the diameter for a flow, velocity and friction
+void PlaceRoom();    // a room with its outline, its loads and its record
+void QueryRoom();    // the loads of a room, for heating, for cooling, or with its temperature
+void MeasureLength();
+void MeasureArea();
+void DragGroup();        // copies of what is selected, dragged and turned as one
+void CopyXrefs();        // what external references show, as entities of the drawing
+void DeleteXrefCopies(); // takes those copies away again
 
 } // namespace workbench
