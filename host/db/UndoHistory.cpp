@@ -13,9 +13,10 @@ void UndoHistory::beginCommand(const CString& name) {
 
 void UndoHistory::endCommand() {
   if (m_depth == 0 || --m_depth > 0) return;
-  // Opened for write but not changed is no change.
+  // Opened for write but not changed is no change, and neither is what came and went within the command.
   std::erase_if(m_current.changes, [](const Change& change) {
     const AcDbObject* object = change.id.object();
+    if (change.appended && object->isErased()) return true;
     return object->isErased() == change.erased && object->isImplicit() == change.implicit &&
            object->ownerId() == change.owner && change.record &&
            object->record().text() == change.record->text();

@@ -120,6 +120,26 @@ TEST_F(Undo, ACommandThatChangesNothingLeavesNoTrace) {
   EXPECT_EQ(db.undo().commandCount(), 0u);
 }
 
+TEST_F(Undo, WhatCameAndWentWithinACommandLeavesNoTrace) {
+  const auto line = addLine();
+  AcDbObjectId passing;
+  command(L"量", [&] {
+    passing = addLine(5);
+    AcDbObjectPointer<AcDbLine>(passing, AcDb::kForWrite)->erase();
+  });
+  EXPECT_EQ(db.undo().undoName(), L"");
+  command(L"改", [&] {
+    passing = addLine(6);
+    AcDbObjectPointer<AcDbLine>(passing, AcDb::kForWrite)->erase();
+    AcDbObjectPointer<AcDbLine>(line, AcDb::kForWrite)->erase();
+  });
+  ASSERT_EQ(db.undo().undo(), Acad::eOk);
+  EXPECT_FALSE(line.isErased());
+  ASSERT_EQ(db.undo().redo(), Acad::eOk);
+  EXPECT_TRUE(line.isErased());
+  EXPECT_TRUE(passing.isErased());
+}
+
 TEST_F(Undo, NestedCommandsCountAsOne) {
   const auto line = addLine();
   command(L"外", [&] {
