@@ -57,7 +57,8 @@ def check(program, folder):
 def main():
     with tempfile.TemporaryDirectory() as folder:
         findings = list(check(sys.argv[1], folder))
-    print("\n".join(findings))
+    for finding in findings:
+        print(finding)
     return 1 if findings else 0
 
 
