@@ -28,9 +28,9 @@ function(zp_common target)
 endfunction()
 
 # A host module: a shared library zp_NAME with the alias zp::NAME, so that the program and its plug-ins
-# share one copy of its state.
+# share one copy of its state. PROGRAM_ONLY: no plug-in may use it.
 function(zp_host_module name)
-  cmake_parse_arguments(ARG "" "" "DEPENDS;PRIVATE" ${ARGN})
+  cmake_parse_arguments(ARG "PROGRAM_ONLY" "" "DEPENDS;PRIVATE" ${ARGN})
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS *.cpp *.h)
   add_library(zp_${name} SHARED ${sources})
   add_library(zp::${name} ALIAS zp_${name})
@@ -38,6 +38,7 @@ function(zp_host_module name)
   target_link_libraries(zp_${name} PUBLIC ${ARG_DEPENDS} PRIVATE ${ARG_PRIVATE})
   set_target_properties(zp_${name} PROPERTIES LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin
                                               INSTALL_RPATH "$ORIGIN")
+  zp_install_host_module(${name} ${ARG_PROGRAM_ONLY})
 endfunction()
 
 # A module of the plug-in: a static library zp_plugin_NAME, alias zp::plugin_NAME, hidden by default.

@@ -1,5 +1,6 @@
 #include "apps/zpcad/RunInWindow.h"
 
+#include "apps/zpcad/LibraryFolders.h"
 #include "host/commands/HostCommands.h"
 #include "host/qt/DesktopProgram.h"
 
@@ -10,13 +11,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Beside the program where it was built, in the folder of the libraries where it was installed.
 void* LoadDesktop(const fs::path& programFolder) {
-  constexpr const char* name = "libzp_qt.so";
-  for (const auto& folder : {programFolder, programFolder / "../lib/zppipemanager"})
-    if (std::error_code error; fs::exists(folder / name, error))
-      if (void* library = dlopen((folder / name).c_str(), RTLD_NOW | RTLD_GLOBAL)) return library;
-  return nullptr;
+  const auto file = FindLibrary(programFolder, "libzp_qt.so");
+  return file ? dlopen(file->c_str(), RTLD_NOW | RTLD_GLOBAL) : nullptr;
 }
 
 } // namespace

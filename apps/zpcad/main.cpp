@@ -1,5 +1,6 @@
 // The program: options, folders, then one of the front ends.
 #include "apps/zpcad/DataFolder.h"
+#include "apps/zpcad/LibraryFolders.h"
 #include "apps/zpcad/Options.h"
 #include "apps/zpcad/RunInWindow.h"
 
@@ -30,12 +31,12 @@ bool setUpFolders(const Options& options) {
   return true;
 }
 
-// The plug-in that comes with the program, unless others were asked for.
-void addOwnPlugIn(Options& options) {
-  const auto file = programFolder() / "ZPPipeManager.so";
-  std::error_code error;
-  if (options.job.plugIns.empty() && fs::exists(file, error))
-    options.job.plugIns.push_back(CString::FromUtf8(file.string()));
+// The plug-ins that come with the program, unless others were asked for.
+void addOwnPlugIns(Options& options) {
+  if (!options.job.plugIns.empty()) return;
+  for (const char* name : {"ZPPipeManager.so", "ZPWorkbench.so"})
+    if (const auto file = FindLibrary(programFolder(), name))
+      options.job.plugIns.push_back(CString::FromUtf8(file->string()));
 }
 
 } // namespace
@@ -44,7 +45,7 @@ int main(int argc, char** argv) {
   Options options;
   if (const auto status = ParseOptions(argc, argv, options)) return *status;
   if (!setUpFolders(options)) return console::kUnusable;
-  addOwnPlugIn(options);
+  addOwnPlugIns(options);
   commands::RegisterHostCommands();
   if (!options.console) return RunInWindow(options, programFolder(), argc, argv);
   const ConsoleStreams streams{isatty(STDIN_FILENO) != 0, isatty(STDOUT_FILENO) != 0};
