@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Installs the house into a folder of its own, builds the workbench against the installed package as a stranger
-would, and plays a script with the installed program.
+"""Installs the house into a folder of its own, builds the workbench and the sibling of docs/siblings.md against the
+installed package as a stranger would, and plays scripts with the installed program.
 
 Usage: check_package.py BUILD-FOLDER SOURCE-FOLDER WORK-FOLDER [CMAKE-OPTION]...
 The work folder is emptied first. Exit status 0 when all is well; otherwise 1, with what is wrong."""
@@ -90,6 +90,42 @@ def build_workbench(source, prefix, work, options):
     expect((prefix / "lib/zppipemanager/ZPWorkbench.so").exists(), "the workbench was not installed beside the plug-in")
 
 
+def files_of(document):
+    """The files that the document shows: a line that begins with `NAME`, then its lines, indented."""
+    files = {}
+    name = None
+    for line in document.read_text(encoding="utf-8").splitlines():
+        named = re.match(r"`([\w.]+)`[:,]", line)
+        if named:
+            name = named.group(1)
+            files[name] = ""
+        elif name and (line.startswith("    ") or not line):
+            files[name] += line[4:] + "\n"
+        else:
+            name = None
+    return files
+
+
+def build_documented_sibling(source, prefix, work, options):
+    folder = work / "documented"
+    folder.mkdir()
+    files = files_of(source / "docs" / "siblings.md")
+    expect(set(files) == {"CMakeLists.txt", "EntryPoint.cpp", "MySibling.menu"}, f"the document shows {list(files)}")
+    for name, text in files.items():
+        (folder / name).write_text(text, encoding="utf-8")
+    build_project(folder, folder / "build", prefix, work, options)
+    run(["cmake", "--install", folder / "build"], work)
+    expect((prefix / "lib/zppipemanager/MySibling.menu").exists(), "the documented sibling was not installed")
+
+
+def play_documented(prefix, work):
+    plugins = prefix / "lib/zppipemanager"
+    output = run([prefix / "bin/zpcad", "--console", "--data", prefix / "share/zppipemanager/data",
+                  "--plugin", plugins / "ZPPipeManager.so", "--plugin", plugins / "MySibling.so"], work,
+                 input="看图层\nQUIT\n".encode(), env={"HOME": str(work), "PATH": "/usr/bin:/bin"})
+    expect("暖通-采暖-供水-干管" in output.splitlines(), f"the documented sibling's command failed:\n{output}")
+
+
 def play(prefix, work):
     """With nothing but what is installed: the two plug-ins, and a copy of the shipped data in the user's folder."""
     place = work / "user"
@@ -118,13 +154,15 @@ def main(arguments):
         check_interface(prefix, build, source)
         count = compile_headers(prefix, work, options)
         build_workbench(source, prefix, work, options)
+        build_documented_sibling(source, prefix, work, options)
         moved = work / "moved"
         os.rename(prefix, moved)
         play(moved, work)
+        play_documented(moved, work)
     except Failure as failure:
         print(failure)
         return 1
-    print(f"{count} public headers, the workbench built alone, the script played")
+    print(f"{count} public headers, the workbench and the documented sibling built alone, their scripts played")
     shutil.rmtree(work)
     return 0
 
