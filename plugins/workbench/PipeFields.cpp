@@ -1,7 +1,7 @@
 #include "plugins/workbench/PipeFields.h"
 
 #include "plugin/base/NumberText.h"
-#include "plugin/pipes/CZPPipeMaterialManager.h"
+#include "plugin/pipes/CZPPipeMaterial.h"
 #include "plugin/pipes/attributes/CZPMainPipe.h"
 #include "plugin/pipes/attributes/CZPRiserPipe.h"
 #include "plugins/workbench/LayerPlacing.h"
@@ -35,12 +35,6 @@ bool ChangeNumber(const PipeField& field, const AcDbObjectId& id) {
 
 #define WB_NUMBER(Pipe, Name)                                                                                \
   ReadNumber<Pipe, &Pipe::Get##Name>, ChangeNumber<Pipe, &Pipe::Get##Name, &Pipe::Set##Name>
-
-const CZPPipeMaterial* MaterialOf(const AcDbObjectId& id) {
-  CString name;
-  CZPMainPipe(id).GetMaterial(name);
-  return CZPPipeMaterialManager::GetInstance()->GetPipeMaterial(name);
-}
 
 double DiameterOf(const AcDbObjectId& id) {
   double nominal = 0;

@@ -1,8 +1,9 @@
 #include "plugins/workbench/PipeLabelText.h"
 
 #include "plugin/base/NumberText.h"
-#include "plugin/pipes/CZPPipeMaterialManager.h"
+#include "plugin/pipes/CZPPipeMaterial.h"
 #include "plugin/pipes/attributes/CZPRiserPipe.h"
+#include "plugins/workbench/PipeQuestions.h"
 
 namespace workbench {
 namespace {
@@ -10,13 +11,11 @@ namespace {
 // Decimals of a diameter in a pipe name, as the catalogue writes it.
 constexpr int kDecimals = 2;
 
-CString SizeText(const CZPRiserPipe& pipe) {
-  CString name;
+CString SizeText(const AcDbObjectId& pipe) {
   double nominal = 0;
-  pipe.GetMaterial(name);
-  pipe.GetDN(nominal);
+  CZPRiserPipe(pipe).GetDN(nominal);
   const CString number = ZP::ftoa(nominal, kDecimals, true);
-  const auto* material = CZPPipeMaterialManager::GetInstance()->GetPipeMaterial(name);
+  const auto* material = MaterialOf(pipe);
   return material ? material->GetLabelText(material->m_strPrefix + number) : L"DN" + number;
 }
 
@@ -24,7 +23,7 @@ CString SizeText(const CZPRiserPipe& pipe) {
 
 CString LabelTextOf(const PickedPipe& pipe) {
   const CZPRiserPipe attributes(pipe.id);
-  const CString size = SizeText(attributes);
+  const CString size = SizeText(pipe.id);
   CString prefix;
   int code = 0;
   if (pipe.kind == PipeKind::main || !attributes.GetCode(code)) return size;

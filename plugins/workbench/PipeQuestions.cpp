@@ -7,6 +7,7 @@
 #include "plugin/layers/CZPManagerLayer.h"
 #include "plugin/layers/LayerService.h"
 #include "plugin/pipes/CZPPipeMaterialManager.h"
+#include "plugin/pipes/attributes/CZPMainPipe.h"
 #include "plugins/workbench/Asking.h"
 
 namespace workbench {
@@ -68,6 +69,12 @@ const CZPPipeMaterial* AskMaterial(const CString& preset) {
   }
 }
 
+const CZPPipeMaterial* MaterialOf(const AcDbObjectId& pipe) {
+  CString name;
+  CZPMainPipe(pipe).GetMaterial(name);
+  return CZPPipeMaterialManager::GetInstance()->GetPipeMaterial(name);
+}
+
 CString PipeNameOf(const CZPPipeMaterial& material, const SZPPipeDNData& row) {
   return material.m_strPrefix + ZP::ftoa(row.dbNominal, 2, true);
 }
@@ -100,6 +107,11 @@ std::optional<SZPPipeDNData> AskDiameter(const CZPPipeMaterial& material, double
 
 std::optional<CString> AskLayerIdentifier(const CString& preset, const wchar_t* const* usual) {
   const auto* scheme = CZPManagerLayer::GetInstance();
+  if (scheme->Categories().GetSize() == 0) {
+    Refuse(L"图层方案“" + scheme->GetPlanName() + L"”是空的。",
+           L"数据文件夹中有图层方案的安装（zpcad --data）");
+    return std::nullopt;
+  }
   while (true) {
     const auto text = AskWithList(L"图层标识", preset, [&] {
       for (const wchar_t* const* identifier = usual; *identifier; ++identifier)

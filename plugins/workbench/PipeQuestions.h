@@ -1,8 +1,9 @@
 // Questions about pipes: a material and a diameter of the catalogue, a layer of the scheme. As in Asking.h
-// nothing means Escape; an empty catalogue is told, and then the answer is nothing as well.
+// nothing means Escape; an empty catalogue or scheme is told, and then the answer is nothing as well.
 #pragma once
 
 #include "host/afx/CString.h"
+#include "host/db/AcDbObjectId.h"
 #include "host/ge/AcGePoint3d.h"
 #include "plugin/pipes/SZPPipeDNData.h"
 #include "plugins/workbench/Asking.h"
@@ -16,6 +17,9 @@ namespace workbench {
 // By name, or by number in the list that "?" shows. A preset that the catalogue lacks becomes its first
 // material. Owned by the catalogue; null means nothing.
 const CZPPipeMaterial* AskMaterial(const CString& preset);
+
+// The material that the pipe's data name; null when the catalogue lacks it.
+const CZPPipeMaterial* MaterialOf(const AcDbObjectId& pipe);
 
 // A row of the material's table, by pipe name ("DN50") or by nominal diameter ("50"). A preset (mm) that the
 // table lacks becomes its first row.

@@ -2,7 +2,7 @@
 // result is written onto the pipe.
 #include "host/ed/acutPrintf.h"
 #include "plugin/base/NumberText.h"
-#include "plugin/pipes/CZPPipeMaterialManager.h"
+#include "plugin/pipes/CZPPipeMaterial.h"
 #include "plugin/pipes/attributes/CZPRiserPipe.h"
 #include "plugin/pipes/limits/CZPFlowVelocityMng.h"
 #include "plugins/workbench/Asking.h"
@@ -27,12 +27,11 @@ const CZPPipeLimit* LimitOf(const SZPPipeDNData& row) {
   return CZPFlowVelocityMng::GetInstance()->GetPipeLimit(ZP::ftoa(row.dbNominal, 2, true), 1);
 }
 
-const CZPPipeMaterial* MaterialOf(const CZPPipe& pipe) {
-  CString name;
-  pipe.GetMaterial(name);
-  const auto* material = CZPPipeMaterialManager::GetInstance()->GetPipeMaterial(name);
-  if (!material) acutPrintf(L"\n目录中没有管材“%s”，请另选。\n", name);
-  return material ? material : AskMaterial(L"");
+// Its own, or another that the user chooses where the catalogue lacks it. Null for Escape.
+const CZPPipeMaterial* MaterialToSize(const PickedPipe& pipe) {
+  if (const auto* material = MaterialOf(pipe.id)) return material;
+  acutPrintf(L"\n目录中没有这条管线的管材，请另选。\n");
+  return AskMaterial(L"");
 }
 
 // The nominal diameter, mm. Nothing, with the reason told, when the flow is too fast in every size.
@@ -112,7 +111,7 @@ void SizePipe() {
   const auto picked = PickPipe(L"选择要计算的管线:", PickFor::changing);
   if (!picked) return;
   const CZPRiserPipe pipe(picked->id);
-  const auto* material = MaterialOf(pipe);
+  const auto* material = MaterialToSize(*picked);
   if (!material) return;
   double present = 0;
   pipe.GetFlowRate(present);
