@@ -191,14 +191,21 @@ Acad::ErrorStatus AcDbPolyline::setCurve(const ge::Curve& curve) {
   if (curve.Kind() != ge::CurveKind::kPolyline) return Acad::eNotThatKindOfClass;
   if (const auto status = assertWriteEnabled(); status != Acad::eOk) return status;
   std::vector<Vertex> vertices;
+  const auto wanted = curve.Vertices();
+  const auto findKept = [&](const ge::PolylineVertex& from, std::size_t first) {
+    for (std::size_t i = first; i < m_vertices.size(); ++i)
+      if (m_vertices[i].point.x == from.point.x && m_vertices[i].point.y == from.point.y) return i;
+    return m_vertices.size();
+  };
   std::size_t kept = 0;
-  for (const ge::PolylineVertex& from : curve.Vertices()) {
+  // A new first vertex divides the segment ahead of the first one that stays.
+  if (wanted.size() > 1 && findKept(wanted[0], 0) == m_vertices.size()) {
+    const std::size_t next = findKept(wanted[1], 0);
+    if (next < m_vertices.size()) kept = next > 0 ? next - 1 : m_vertices.size() - 1;
+  }
+  for (const ge::PolylineVertex& from : wanted) {
     Vertex vertex;
-    for (std::size_t i = kept; i < m_vertices.size(); ++i) {
-      if (m_vertices[i].point.x != from.point.x || m_vertices[i].point.y != from.point.y) continue;
-      kept = i;
-      break;
-    }
+    if (const std::size_t same = findKept(from, kept); same < m_vertices.size()) kept = same;
     if (kept < m_vertices.size()) vertex = m_vertices[kept];
     vertex.point = from.point;
     vertex.bulge = from.bulge;

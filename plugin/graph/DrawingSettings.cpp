@@ -5,7 +5,8 @@
 #include <cmath>
 
 #include "host/afx/Numbers.h"
-#include "host/db/AcDbLayerTable.h"
+#include "host/db/AcDbDatabase.h"
+#include "plugin/graph/LayerZero.h"
 #include "plugin/graph/Xdata.h"
 
 namespace {
@@ -26,22 +27,15 @@ constexpr const wchar_t* kTextStyleKey = L"ZP_文字样式";
 constexpr const wchar_t* kFontTypeKey = L"ZP_字体方式";
 constexpr int kOwnTextStyle = 1;
 
-AcDbObjectId LayerZero(AcDbDatabase& drawing) {
-  AcDbObjectId id;
-  const AcDbObjectPointer<AcDbLayerTable> layers(drawing.layerTableId(), AcDb::kForRead);
-  if (layers) layers->getAt(L"0", id);
-  return id;
-}
-
 bool Read(const wchar_t* key, CString& value) {
   AcDbDatabase* drawing = acdbHostApplicationServices()->workingDatabase();
-  return drawing && ZP::GetXdata(LayerZero(*drawing), key, value);
+  return drawing && ZP::GetXdata(ZP::LayerZero(*drawing), key, value);
 }
 
 bool Write(const wchar_t* key, const CString& value) {
   AcDbDatabase* drawing = acdbHostApplicationServices()->workingDatabase();
   if (!drawing) return false;
-  const AcDbObjectId layer = LayerZero(*drawing);
+  const AcDbObjectId layer = ZP::LayerZero(*drawing);
   CString old;
   if (ZP::GetXdata(layer, key, old) && old == value) return true; // no change to undo or save
   return ZP::SetXdata(layer, key, value) != 0;

@@ -29,6 +29,7 @@ PLUGIN = {
     "plugin/graph": ["plugin/base"] + HOST_BELOW_5,
     "plugin/layers": ["plugin/base", "plugin/graph"] + HOST_BELOW_5,
     **{subsystem: LAYERS_AND_BELOW for subsystem in SUBSYSTEMS},
+    "plugin/tools": ["plugin/pipes"] + LAYERS_AND_BELOW,
     "plugin/frame": SUBSYSTEMS + LAYERS_AND_BELOW,
 }
 
