@@ -113,6 +113,8 @@ TEST(SmallestSize, TakesASizeAtItsLimitAndNotBeyond) {
   const double limit = 0.9 * std::numbers::pi * 0.0354 * 0.0354 / 4 * 3600;
   EXPECT_EQ(1u, SmallestSize(kSizes, limit * (1 - 1e-12)));
   EXPECT_EQ(2u, SmallestSize(kSizes, limit * (1 + 1e-12)));
+  const PipeSize exact[] = {{32, 35.4, Velocity(2.5, 35.4)}};
+  EXPECT_EQ(0u, SmallestSize(exact, 2.5));
 }
 
 TEST(SmallestSize, IsNothingForTooMuchAndForNoSizes) {
