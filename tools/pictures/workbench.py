@@ -4,13 +4,9 @@
 Usage: tools/pictures/workbench.py BUILD-FOLDER [OUTPUT-FOLDER]
 Each picture is what EXPORT writes after a script; the drawing is given up."""
 
-import os
-import subprocess
 import sys
-import tempfile
-from pathlib import Path
 
-ROOT = Path(__file__).resolve().parents[2]
+import exported
 
 MAINS = """WB_HZGG
 采暖供水干管
@@ -79,41 +75,19 @@ LABELS = """WB_GXBZ
 3600,10150
 
 """
+WINDOW = ("-700,-2700", "12700,11100")
+SIZE = "140x144"
 # Name of the picture, and what is typed ahead of EXPORT.
 PICTURES = {
     "workbench-mains": MAINS + RISERS,
     "workbench-labels": MAINS + RISERS + SIZES + LABELS,
 }
-EXPORT = """EXPORT
-{name}.png
-W
--700,-2700
-12700,11100
-140x144
-QUIT
-answer 是
-"""
-
-
-def draw(program, name, lines, folder, output):
-    script = folder / f"{name}.scr"
-    script.write_text(lines + EXPORT.format(name=name), encoding="utf-8")
-    environment = {**os.environ, "HOME": str(folder), "XDG_DATA_HOME": str(folder / name)}
-    result = subprocess.run([program, "--console", "--data", ROOT / "data", "--script", script], cwd=folder,
-                            env=environment, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, check=False)
-    if result.returncode != 0:
-        sys.exit(f"{name}: the script failed\n{result.stdout.decode()}")
-    (folder / f"{name}.png").replace(output / f"{name}.png")
 
 
 def main(arguments):
-    if len(arguments) not in (1, 2):
-        sys.exit(__doc__)
-    program = Path(arguments[0]).resolve() / "bin" / "zpcad"
-    output = Path(arguments[1] if len(arguments) == 2 else ROOT / "docs" / "pictures").resolve()
-    with tempfile.TemporaryDirectory() as name:
-        for picture, lines in PICTURES.items():
-            draw(program, picture, lines, Path(name), output)
+    program, output = exported.program_and_output(arguments, __doc__)
+    for picture, lines in PICTURES.items():
+        exported.draw(program, output / f"{picture}.png", lines, WINDOW, SIZE)
 
 
 if __name__ == "__main__":
