@@ -6,6 +6,7 @@
 #include "host/commands/FileVersionPrompt.h"
 #include "host/db/AcDbBlockTable.h"
 #include "host/db/AcDbLayerTable.h"
+#include "host/db/ExternalReferences.h"
 #include "host/ed/AcApDocManager.h"
 #include "host/ed/EdFrontEnd.h"
 #include "host/ed/EdPrompts.h"
@@ -45,6 +46,19 @@ void printSummary(const AcApDocument& document, const dxf::ReadReport& report) {
   if (report.repairs.empty()) return;
   acutPrintf(L"\n读入时修正 %d 处：", report.repairs.size());
   for (const auto& repair : report.repairs) printRepair(repair);
+  acutPrintText(L"\n");
+}
+
+void printXrefs(const AcDbDatabase& database) {
+  const auto count = acdbXrefBlocks(database).size();
+  if (count == 0) return;
+  const auto problems = acdbXrefProblems(database);
+  if (problems.empty()) {
+    acutPrintf(L"\n外部参照 %d 个，均已载入。\n", static_cast<int>(count));
+    return;
+  }
+  acutPrintf(L"\n外部参照 %d 个，其中未能载入：", static_cast<int>(count));
+  for (const auto& problem : problems) acutPrintText(L"\n  " + problem.name + L"：" + problem.reason);
   acutPrintText(L"\n");
 }
 
@@ -135,6 +149,7 @@ bool OpenDrawing(const CString& path, bool recover) {
   // What recovery could not save is still in the file, which a save must not destroy.
   if (recover && !report.repairs.empty()) document->setRescueBeforeSave(true);
   printSummary(*document, report);
+  printXrefs(*document->database());
   return true;
 }
 

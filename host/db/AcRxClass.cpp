@@ -28,8 +28,7 @@ AcRxClass::AcRxClass(const wchar_t* name, BaseGetter base, const char* dxfName, 
 }
 
 AcRxClass::~AcRxClass() {
-  if (isCustom())
-    for (AcDbDatabase* database : AcDbDatabase::allDatabases()) database->withdrawClass(*this);
+  if (isCustom()) acrxWithdrawClass(*this);
   std::erase_if(registry().byName, [this](const auto& entry) { return entry.second == this; });
   std::erase_if(registry().byDxfName, [this](const auto& entry) { return entry.second == this; });
 }
@@ -48,6 +47,13 @@ AcRxClass* AcRxClass::findByDxfName(std::string_view dxfName) {
 AcRxClass* AcRxClass::findByName(std::wstring_view name) {
   const auto found = registry().byName.find(name);
   return found == registry().byName.end() ? nullptr : found->second;
+}
+
+std::vector<AcRxClass*> AcRxClass::customClasses() {
+  std::vector<AcRxClass*> classes;
+  for (const auto& entry : registry().byName)
+    if (entry.second->isCustom()) classes.push_back(entry.second);
+  return classes;
 }
 
 AcRxClass* AcRxObject::desc() {

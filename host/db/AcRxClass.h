@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string_view>
+#include <vector>
 
 class AcRxObject;
 
@@ -34,6 +35,8 @@ class AcRxClass {
   // The class registered for a record name of a drawing file, or null.
   static AcRxClass* findByDxfName(std::string_view dxfName);
   static AcRxClass* findByName(std::wstring_view name);
+  // Those of plug-ins that are registered now.
+  static std::vector<AcRxClass*> customClasses();
 
  private:
   const wchar_t* m_name;
@@ -44,7 +47,10 @@ class AcRxClass {
   int m_proxyFlags;
 };
 
-// To be called when a plug-in has registered its classes: objects that were kept without being understood,
-// because their class was missing, become objects of it, in all drawings. When a class goes, its objects are
-// kept so again by themselves.
+// Objects that were kept without being understood, because their class was missing, become objects of it, in
+// all drawings. Called when a plug-in is loaded; one that registers classes later calls it itself. Nobody may
+// have such an object open.
 void acrxBuildClassHierarchy();
+// The other way: the objects of a class are kept so again. Called before a plug-in goes, while its code can
+// still tell what the objects hold; a class that goes by itself does it too.
+void acrxWithdrawClass(const AcRxClass& type);

@@ -14,6 +14,10 @@ void acrxBuildClassHierarchy() {
   for (AcDbDatabase* database : AcDbDatabase::allDatabases()) database->resurrectClasses();
 }
 
+void acrxWithdrawClass(const AcRxClass& type) {
+  for (AcDbDatabase* database : AcDbDatabase::allDatabases()) database->withdrawClass(type);
+}
+
 void AcDbDatabase::exchangeObject(AcDbStub& stub, std::unique_ptr<AcDbObject> made) {
   const std::unique_ptr<AcDbObject> old(stub.object);
   const DxfRecord record = old->record();

@@ -6,6 +6,7 @@
 #include "host/db/AcDbBlockReference.h"
 #include "host/db/AcDbBlockTable.h"
 #include "host/db/AcDbDatabase.h"
+#include "host/db/AcDbDrawingFiles.h"
 #include "host/db/AcDbObjectPointer.h"
 
 #include <algorithm>
@@ -83,8 +84,13 @@ Acad::ErrorStatus ExternalReferences::loadInto(const AcDbObjectId& id, const std
   if (std::find(chain.begin(), chain.end(), real) != chain.end() || chain.size() >= kMaxDepth)
     return fail(state, Acad::eCircularReference, quoted(L"外部参照文件“%s”循环引用", block->pathName()));
   auto drawing = std::make_unique<AcDbDatabase>(false);
-  const auto status = drawing->readDwgFile(found);
-  if (status != Acad::eOk) return fail(state, status, quoted(L"外部参照文件“%s”不能读取", block->pathName()));
+  auto* files = AcDbDrawingFiles::registered();
+  if (!files) return Acad::eNotApplicable;
+  CString why;
+  const auto status = files->read(*drawing, found, why);
+  if (status != Acad::eOk)
+    return fail(state, status, quoted(L"外部参照文件“%s”不能读取：", block->pathName()) + why);
+  drawing->setFileName(found);
   std::vector<CString> longer = chain;
   longer.push_back(real);
   // A circle further down breaks there, and is a matter of the one who closes it.
@@ -225,4 +231,27 @@ Acad::ErrorStatus acdbResolveCurrentXRefs(AcDbDatabase* host) {
     if (status != AcDb::kXrfResolved && status != AcDb::kXrfUnloaded) open.push_back(id);
   }
   return acdbReloadXrefs(host, open);
+}
+
+namespace {
+
+void collectProblems(const AcDbDatabase& drawing, const CString& prefix, bool isNested,
+                     std::vector<XrefProblem>& problems) {
+  for (const AcDbObjectId& id : acdbXrefBlocks(drawing)) {
+    const auto* block = xrefBlock(id);
+    if (isNested && block->isFromOverlayReference()) continue;
+    const CString name = prefix + block->name();
+    const CString reason = drawing.xrefs().reason(id);
+    if (!reason.IsEmpty()) problems.push_back({name, reason});
+    if (const AcDbDatabase* inner = block->xrefDatabase())
+      collectProblems(*inner, name + L"|", true, problems);
+  }
+}
+
+} // namespace
+
+std::vector<XrefProblem> acdbXrefProblems(const AcDbDatabase& database) {
+  std::vector<XrefProblem> problems;
+  collectProblems(database, CString(), false, problems);
+  return problems;
 }

@@ -62,5 +62,11 @@ Acad::ErrorStatus acdbUnloadXrefs(AcDbDatabase* host, const std::vector<AcDbObje
 Acad::ErrorStatus acdbReloadXrefs(AcDbDatabase* host, const std::vector<AcDbObjectId>& blocks);
 // All that are not resolved and not unloaded.
 Acad::ErrorStatus acdbResolveCurrentXRefs(AcDbDatabase* host);
+struct XrefProblem {
+  CString name;   // of the block; of one in a drawing that is referred to "外|内"
+  CString reason; // a sentence for the user
+};
+// What could not be resolved, here and in the drawings that are referred to, each with the reason.
+std::vector<XrefProblem> acdbXrefProblems(const AcDbDatabase& database);
 // The blocks of a drawing that are external references.
 std::vector<AcDbObjectId> acdbXrefBlocks(const AcDbDatabase& database);

@@ -90,7 +90,7 @@ dxf::WriteReport dxf::WriteDrawing(AcDbDatabase& database, const CString& path, 
   }
   const afx::FileResult result = file.Commit();
   report.ok = result.ok;
-  if (result.ok) database.setFileName(path);
+  if (result.ok && !options.isCopy) database.setFileName(path);
   report.error = result.message;
   return report;
 }

@@ -47,6 +47,7 @@ struct WriteOptions {
   // (DrawingForm::saveVersion), or else the one that was read.
   std::string version;
   Progress progress;
+  bool isCopy = false; // the drawing's own file stays the one that it was
 };
 
 struct WriteReport {

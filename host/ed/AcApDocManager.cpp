@@ -1,6 +1,7 @@
 #include "host/ed/AcApDocManager.h"
 
 #include "host/afx/Paths.h"
+#include "host/db/ExternalReferences.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -79,6 +80,8 @@ AcApDocument* AcApDocManager::openDocument(const CString& fileName, dxf::ReadRep
   auto database = std::make_unique<AcDbDatabase>(false);
   report = dxf::ReadDrawing(fileName, *database, options);
   if (!report.ok) return nullptr;
+  // Those that can't be resolved keep their reason, see acdbXrefProblems.
+  acdbResolveCurrentXRefs(database.get());
   // An empty drawing that nobody touched was only there because there was nothing else.
   AcApDocument* untouched = m_current && !m_current->isNamed() && m_current->isQuiescent() &&
                                     !m_current->database()->isModified() &&

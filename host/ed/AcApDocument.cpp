@@ -25,6 +25,7 @@ AcApDocument::~AcApDocument() = default;
 
 void AcApDocument::setFileName(const CString& fileName) {
   m_fileName = fileName;
+  m_database->setFileName(fileName); // from where the paths of external references count
   m_title = fileName.Mid(std::max(fileName.ReverseFind(L'/'), fileName.ReverseFind(L'\\')) + 1);
 }
 

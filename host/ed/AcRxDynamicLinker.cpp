@@ -2,7 +2,9 @@
 
 #include "host/afx/MessageLog.h"
 #include "host/afx/Paths.h"
+#include "host/ed/AcApDocManager.h"
 #include "host/ed/AcEdCommandStack.h"
+#include "host/ed/EdFrontEnd.h"
 #include "host/ed/EdSession.h"
 #include "host/ed/PlugInModule.h"
 #include "host/ed/acutPrintf.h"
@@ -23,6 +25,20 @@ bool isSameFile(const CString& a, const CString& b) {
   std::error_code error;
   return first == second || fs::equivalent(first, second, error) ||
          (!second.has_parent_path() && first.filename() == second);
+}
+
+std::vector<AcRxClass*> classesOf(const PlugInModule& module) {
+  auto classes = AcRxClass::customClasses();
+  std::erase_if(classes, [&](const AcRxClass* type) { return !module.holds(type); });
+  return classes;
+}
+
+// What entities look like depends on whether their class is there.
+void regenerateAll() {
+  auto* frontEnd = EdSession::instance().frontEnd();
+  if (!frontEnd) return;
+  const std::unique_ptr<AcApDocumentIterator> documents(acDocManager->newAcApDocumentIterator());
+  for (; !documents->done(); documents->step()) frontEnd->regenerate(*documents->document());
 }
 
 const void* addressOf(const AcEdCommand& command) {
@@ -54,7 +70,11 @@ bool AcRxDynamicLinker::loadModule(const wchar_t* file, bool print) {
   // In the list before it is called: its entry point hands its packet back to this object.
   m_modules.push_back(std::move(opened));
   auto* module = m_modules.back().get();
-  if (module->send(AcRx::kInitAppMsg, reason) == AcRx::kRetOK) return true;
+  if (module->send(AcRx::kInitAppMsg, reason) == AcRx::kRetOK) {
+    acrxBuildClassHierarchy();
+    if (!classesOf(*module).empty()) regenerateAll();
+    return true;
+  }
   const auto own = std::find_if(m_modules.begin(), m_modules.end(),
                                 [&](const auto& candidate) { return candidate.get() == module; });
   auto refused = std::move(*own);
@@ -89,9 +109,13 @@ void AcRxDynamicLinker::unloadAll() {
   }
 }
 
-// A command whose code is no longer there must not stay in the table.
+// A command whose code is no longer there must not stay in the table, nor an object in a drawing.
 void AcRxDynamicLinker::release(std::unique_ptr<PlugInModule> module) {
   acedCommandStack()->removeIf([&](const AcEdCommand& command) { return module->holds(addressOf(command)); });
+  const auto classes = classesOf(*module);
+  for (const AcRxClass* type : classes) acrxWithdrawClass(*type);
+  module.reset();
+  if (!classes.empty()) regenerateAll();
 }
 
 bool AcRxDynamicLinker::isModuleLoaded(const wchar_t* file) const {

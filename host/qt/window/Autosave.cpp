@@ -2,6 +2,7 @@
 
 #include "host/afx/AtomicFile.h"
 #include "host/afx/MessageLog.h"
+#include "host/db/ExternalReferences.h"
 #include "host/dxf/DrawingFile.h"
 #include "host/ed/AcApDocManager.h"
 #include "host/ed/EdSession.h"
@@ -52,7 +53,7 @@ bool Autosave::save() {
     const QString base = QStringLiteral("%1/%2").arg(m_own).arg(number);
     const auto note =
         afx::WriteFileAtomically(FromQt(base + QStringLiteral(".txt")), NoteOf(*document).ToUtf8());
-    const auto report = dxf::WriteDrawing(*document->database(), FromQt(base + QStringLiteral(".dxf")));
+    const auto report = dxf::WriteDrawing(*document->database(), FromQt(base + QStringLiteral(".dxf")), {{}, {}, true});
     if (!note.ok || !report.ok) afx::LogError(L"自动保存：" + (note.ok ? report.error : note.message));
     kept[document] = number;
   }
@@ -105,6 +106,7 @@ bool Autosave::open(const LeftDrawing& drawing) {
   }
   const bool hasFile = !drawing.original.IsEmpty() && !acDocManager->documentOfFile(drawing.original);
   document->setFileName(hasFile ? drawing.original : CString());
+  acdbResolveCurrentXRefs(document->database()); // they lie beside the drawing, not beside its copy
   document->setRescueBeforeSave(hasFile);
   document->database()->setModified(true);
   acDocManager->titleChanged(*document);

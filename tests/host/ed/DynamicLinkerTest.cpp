@@ -1,4 +1,6 @@
 #include "ZpPaths.h"
+#include "host/db/AcDbUnknownEntity.h"
+#include "host/dxf/DrawingFile.h"
 #include "host/ed/AcRxDynamicLinker.h"
 #include "tests/support/EditorFixture.h"
 
@@ -69,4 +71,61 @@ TEST_F(DynamicLinker, ForeignPacketsAreRefused) {
   int packet = 0;
   EXPECT_FALSE(acrxDynamicLinker->unlockApplication(&packet));
   EXPECT_FALSE(acrxDynamicLinker->registerAppMDIAware(nullptr));
+}
+
+// --- entity classes of plug-ins ---
+
+namespace {
+
+class MarkClass : public DynamicLinker {
+ protected:
+  // A drawing with a mark that nobody understands yet.
+  void SetUp() override {
+    const std::string tags =
+        "0\nSECTION\n2\nENTITIES\n0\nSAMPLEMARK\n5\nA1\n100\nAcDbEntity\n8\n0\n100\nSampleMark\n"
+        "10\n5.0\n20\n6.0\n30\n0.0\n40\n2.0\n1\n水泵\n90\n77\n0\nENDSEC\n0\nEOF\n";
+    auto read = std::make_unique<AcDbDatabase>(false);
+    ASSERT_TRUE(dxf::ReadDrawingBytes(tags, L"marks.dxf", *read).ok);
+    m_drawing = std::move(read);
+    ASSERT_EQ(Acad::eOk, m_drawing->getAcDbObjectId(m_mark, false, AcDbHandle(0xA1)));
+  }
+  bool isUnderstood() const { return !AcDbUnknownEntity::cast(m_mark.object()); }
+  AcDbEntity& mark() const { return *AcDbEntity::cast(m_mark.object()); }
+  std::string saved() const { return dxf::WriteDrawingBytes(*m_drawing); }
+
+  std::unique_ptr<AcDbDatabase> m_drawing;
+  AcDbObjectId m_mark;
+};
+
+} // namespace
+
+TEST_F(MarkClass, ObjectsOfOpenDrawingsWakeUpAndFallAsleepAgain) {
+  const std::string before = saved();
+  EXPECT_FALSE(isUnderstood());
+  ASSERT_TRUE(acrxDynamicLinker->loadModule(sample("mark"))) << acrxDynamicLinker->lastError().ToUtf8();
+  EXPECT_TRUE(isUnderstood());
+  AcDbExtents box;
+  EXPECT_EQ(Acad::eOk, mark().getGeomExtents(box));
+  EXPECT_EQ(AcGePoint3d(3, 4, 0), box.minPoint());
+  EXPECT_EQ(1, frontEnd.regenerations) << "it looks different now";
+  ASSERT_TRUE(acrxDynamicLinker->unloadModule(sample("mark")));
+  EXPECT_FALSE(isUnderstood());
+  EXPECT_EQ(2, frontEnd.regenerations);
+  EXPECT_EQ(before, saved()) << "nobody changed it";
+}
+
+TEST_F(MarkClass, WhatThePlugInChangedIsKeptWhenItGoes) {
+  ASSERT_TRUE(acrxDynamicLinker->loadModule(sample("mark")));
+  {
+    AcDbObjectPointer<AcDbEntity> open(m_mark, AcDb::kForWrite);
+    ASSERT_EQ(Acad::eOk, open->transformBy(AcGeMatrix3d::translation({10, 0, 0})));
+  }
+  ASSERT_TRUE(acrxDynamicLinker->unloadModule(sample("mark")));
+  EXPECT_NE(std::string::npos, saved().find("15.0\n"));
+  EXPECT_NE(std::string::npos, saved().find("77\n")) << "what the class does not know";
+}
+
+TEST_F(MarkClass, APlugInWithoutClassesDrawsNothingAnew) {
+  ASSERT_TRUE(acrxDynamicLinker->loadModule(sample("good")));
+  EXPECT_EQ(0, frontEnd.regenerations);
 }
