@@ -8,6 +8,7 @@
 #include "host/db/DxfDecodeContext.h"
 #include "host/db/DxfRecordEditor.h"
 #include "host/db/EntityMath.h"
+#include "host/db/MissingReference.h"
 
 #include <algorithm>
 #include <cmath>
@@ -128,6 +129,12 @@ AcGeMatrix3d AcDbBlockReference::blockTransform() const {
 void AcDbBlockReference::worldDraw(AcGiWorldDraw& draw) const {
   const auto* block = AcDbBlockTableRecord::cast(m_block.object());
   if (!block || std::find(t_drawing.begin(), t_drawing.end(), m_block) != t_drawing.end()) return;
+  if (const auto missing = entity::missingReferenceOf(*this)) {
+    const AcGeMatrix3d turn =
+        AcGeMatrix3d::planeToWorld(m_normal) * AcGeMatrix3d::rotation(m_rotation, AcGeVector3d(0, 0, 1));
+    draw.text(position(), m_normal, turn * AcGeVector3d(1, 0, 0), missing->height, 1, missing->text);
+    return;
+  }
   t_drawing.push_back(m_block);
   const auto drawAll = [&](const std::vector<AcDbObjectId>& ids) {
     for (const AcDbObjectId& id : ids) {

@@ -2,6 +2,7 @@
 
 #include "host/db/AcDbDatabase.h"
 #include "host/db/AcDbLayerTable.h"
+#include "host/db/AcDbLinetypeTable.h"
 #include "host/scene/Transparency.h"
 
 namespace scene {
@@ -23,14 +24,42 @@ LayerLook lookOf(const AcDbLayerTableRecord& layer, bool forPlotting) {
   return look;
 }
 
+// A linetype that came along with an external reference may be a name alone here.
+bool isDefined(const AcDbObjectId& linetype) {
+  const auto* record = AcDbLinetypeTableRecord::cast(linetype.object());
+  return record && (!record->dashes().empty() || record->name().Find(L'|') < 0);
+}
+
 } // namespace
 
-LayerLooks::LayerLooks(const AcDbDatabase& database, bool forPlotting) {
+LayerLooks::LayerLooks(const AcDbDatabase& database, bool forPlotting)
+    : m_database(database), m_forPlotting(forPlotting) {
   const AcDbSymbolTable* table = database.tableOf("LAYER");
   if (!table) return;
   for (const AcDbObjectId& id : table->records()) {
     const auto* layer = AcDbLayerTableRecord::cast(id.object());
     if (layer) m_looks.emplace(id, lookOf(*layer, forPlotting));
+  }
+}
+
+void LayerLooks::addReferenced(const AcDbDatabase& referenced, const CString& block) {
+  const AcDbSymbolTable* theirs = referenced.tableOf("LAYER");
+  const AcDbSymbolTable* ours = m_database.tableOf("LAYER");
+  const bool keepsChanges = m_database.header().integer("$VISRETAIN").value_or(1) != 0;
+  if (!theirs) return;
+  for (const AcDbObjectId& id : theirs->records()) {
+    const auto* layer = AcDbLayerTableRecord::cast(id.object());
+    if (!layer) continue;
+    LayerLook look = lookOf(*layer, m_forPlotting);
+    if (ours && ours->getAt(block + L"|" + layer->name(), look.here) == Acad::eOk && keepsChanges) {
+      const LayerLook& changed = of(look.here);
+      look.color = changed.color;
+      look.weight = changed.weight;
+      look.off = changed.off;
+      look.frozen = changed.frozen;
+      if (isDefined(changed.linetype)) look.linetype = changed.linetype;
+    }
+    m_looks.insert_or_assign(id, look);
   }
 }
 

@@ -132,8 +132,16 @@ void Pen::clip(PathPen& path) {
     m_frame.clip = m_builder.addClip(std::move(path.path()), m_frame.clip);
 }
 
+void Pen::nested(const AcDbObjectId& id, const AcGeMatrix3d& toSpace) {
+  m_builder.drawNested(m_frame, m_look, m_entity, id, toSpace);
+}
+
+bool Pen::takeTraits(const AcGiSubEntityTraits& own, const AcGiSubEntityTraits& now) {
+  return m_builder.looks().apply(m_frame, own, now, m_look);
+}
+
 void Pen::leaveOut(const CString& what) {
-  m_builder.leftOut().add(what, m_entity.handle());
+  m_builder.leaveOut(what, m_entity);
 }
 
 } // namespace scene

@@ -12,6 +12,7 @@
 #include <optional>
 
 class AcDbEntity;
+class AcGiSubEntityTraits;
 
 namespace scene {
 
@@ -58,11 +59,16 @@ class Pen {
   void block(const AcDbObjectId& block, const AcGeMatrix3d& toSpace);
   // An entity that belongs to this one, such as an attribute.
   void subEntity(const AcDbObjectId& id);
+  // Another entity that this one draws in its place.
+  void nested(const AcDbObjectId& id, const AcGeMatrix3d& toSpace);
   // What is drawn from here on shows only within the path.
   void clip(PathPen& path);
   // Another colour, weight or linetype from here on.
   void setColor(const Color& color) { m_look.color = color; }
   void setLook(const Look& look) { m_look = look; }
+  // What an entity has set that draws itself, and what the traits began with. False when it draws on a layer
+  // that is not shown.
+  bool takeTraits(const AcGiSubEntityTraits& own, const AcGiSubEntityTraits& now);
 
   // Tells what of the entity is not in the picture: a short Chinese reason, counted over the drawing.
   void leaveOut(const CString& what);

@@ -5,7 +5,6 @@
 #include "host/db/AcDbEntity.h"
 #include "host/scene/Painter.h"
 #include "host/scene/Pen.h"
-#include "host/scene/Transparency.h"
 #include "host/scene/WorldDrawPen.h"
 #include "host/scene/text/TextMetrics.h"
 
@@ -16,16 +15,13 @@ namespace {
 
 const EstimatedMetrics kEstimated;
 
-constexpr int kDefaultWeight = 25; // where the drawing says "default"
-
 } // namespace
 
 SceneBuilder::SceneBuilder(AcDbDatabase& database, const SceneOptions& options)
-    : m_database(database), m_options(options), m_variables(VariablesOf(database)),
-      m_layers(database, options.forPlotting), m_styles(database),
+    : m_options(options), m_own(database), m_layers(database, options.forPlotting),
       m_metrics(options.metrics ? options.metrics : &kEstimated) {
-  m_scene.pointMode = m_variables.pointMode;
-  m_scene.pointSize = m_variables.pointSize;
+  m_scene.pointMode = m_own.variables.pointMode;
+  m_scene.pointSize = m_own.variables.pointSize;
 }
 
 void SceneBuilder::addSpace(const AcDbBlockTableRecord& space) {
@@ -108,12 +104,16 @@ std::int32_t SceneBuilder::addClip(Path path, std::int32_t within) {
 }
 
 std::int32_t SceneBuilder::pattern(const Look& look, double linetypeLength, bool bySegment) {
-  const double scale = m_variables.linetypeScale * look.linetypeScale * linetypeLength;
+  const double scale = m_own.variables.linetypeScale * look.linetypeScale * linetypeLength;
   const std::size_t known = m_scene.patterns.size();
   const std::int32_t index = m_linetypes.find(look.linetype, scale, bySegment, m_scene.patterns);
   if (m_scene.patterns.size() > known && LinetypePatterns::hasFigures(look.linetype))
     m_leftOut.add(L"线型中的文字和形未画", look.linetype.handle());
   return index;
+}
+
+void SceneBuilder::leaveOut(const CString& what, const AcDbEntity& entity) {
+  m_leftOut.add(what, m_drawing == &m_own ? entity.handle() : m_group.entity.handle());
 }
 
 void SceneBuilder::exhaust(const wchar_t* what) {
@@ -165,25 +165,52 @@ bool SceneBuilder::addText(Primitive primitive, TextRun run) {
 void SceneBuilder::drawBlock(const Frame& outer, const Look& look, const AcDbEntity& insertion,
                              const AcDbObjectId& block, const AcGeMatrix3d& toSpace) {
   const auto* record = AcDbBlockTableRecord::cast(block.object());
-  if (!record || record->isErased()) return m_leftOut.add(L"没有图块定义", insertion.handle());
-  if (record->isFromExternalReference() && record->entities().empty())
-    return m_leftOut.add(L"外部参照未载入", insertion.handle());
+  if (!record || record->isErased()) return leaveOut(L"没有图块定义", insertion);
   if (std::find(m_open.begin(), m_open.end(), block) != m_open.end())
-    return m_leftOut.add(L"图块包含自身", insertion.handle());
-  if (outer.depth >= m_options.limits.depth) return m_leftOut.add(L"图块嵌套太深", insertion.handle());
-  Frame inner = outer;
-  inner.toScene = outer.toScene * toSpace;
-  inner.inBlock = true;
-  inner.byBlock = look;
-  inner.layer = effectiveLayer(outer, insertion);
-  inner.linetypeLength = outer.linetypeLength * Pen::lengthScale(toSpace);
-  inner.depth = outer.depth + 1;
+    return leaveOut(L"图块包含自身", insertion);
+  if (outer.depth >= m_options.limits.depth) return leaveOut(L"图块嵌套太深", insertion);
+  const auto* contents = record;
+  const DrawingLooks* outside = m_drawing;
+  if (const AcDbDatabase* referenced = record->xrefDatabase()) {
+    m_drawing = &drawingOf(*record);
+    contents = AcDbBlockTableRecord::cast(referenced->modelSpaceId().object());
+  }
+  const Frame inner = blockFrame(outer, look, insertion, toSpace);
   m_open.push_back(block);
-  for (const AcDbObjectId& id : m_order.of(*record)) {
+  for (const AcDbObjectId& id : m_order.of(*contents)) {
     if (m_exhausted) break;
     drawEntity(inner, id);
   }
   m_open.pop_back();
+  m_drawing = outside;
+}
+
+Frame SceneBuilder::blockFrame(const Frame& outer, const Look& look, const AcDbEntity& insertion,
+                               const AcGeMatrix3d& toSpace) const {
+  Frame inner = outer;
+  inner.toScene = outer.toScene * toSpace;
+  inner.inBlock = true;
+  inner.byBlock = look;
+  inner.layer = m_looks.layerOf(outer, insertion.layerId());
+  inner.linetypeLength = outer.linetypeLength * Pen::lengthScale(toSpace);
+  inner.depth = outer.depth + 1;
+  return inner;
+}
+
+// Two blocks that refer to one file have a drawing each, and so have their layers.
+const DrawingLooks& SceneBuilder::drawingOf(const AcDbBlockTableRecord& block) {
+  auto& looks = m_referenced[block.xrefDatabase()];
+  if (!looks) {
+    looks = std::make_unique<DrawingLooks>(*block.xrefDatabase(), m_own.variables);
+    m_layers.addReferenced(*block.xrefDatabase(), block.name());
+  }
+  return *looks;
+}
+
+void SceneBuilder::drawNested(const Frame& outer, const Look& look, const AcDbEntity& whole,
+                              const AcDbObjectId& nested, const AcGeMatrix3d& toSpace) {
+  if (outer.depth >= m_options.limits.depth) return leaveOut(L"图块嵌套太深", whole);
+  drawEntity(blockFrame(outer, look, whole, toSpace), nested);
 }
 
 void SceneBuilder::drawPart(const Frame& outer, const Look& look, const AcDbEntity& whole,
@@ -191,7 +218,7 @@ void SceneBuilder::drawPart(const Frame& outer, const Look& look, const AcDbEnti
   Frame frame = outer;
   frame.inBlock = true;
   frame.byBlock = look;
-  frame.layer = effectiveLayer(outer, whole);
+  frame.layer = m_looks.layerOf(outer, whole.layerId());
   drawEntity(frame, part);
 }
 
@@ -205,66 +232,24 @@ const EntityTags& SceneBuilder::tagsOf(const AcDbEntity& entity, bool keep, Enti
   return at->second;
 }
 
-AcDbObjectId SceneBuilder::effectiveLayer(const Frame& frame, const AcDbEntity& entity) const {
-  return frame.inBlock && m_layers.of(entity.layerId()).isZero ? frame.layer : entity.layerId();
-}
-
-bool SceneBuilder::isHidden(const Frame& frame, const AcDbObjectId& layer, bool isInsertion) const {
-  const LayerLook& look = m_layers.of(layer);
-  if (look.frozen || (frame.frozen && frame.frozen->contains(layer))) return true;
-  return look.off && !isInsertion; // what stands in a block on a layer of its own stays
-}
-
-Look SceneBuilder::lookOf(const Frame& frame, const AcDbEntity& entity, const EntityTags& tags,
-                          const AcDbObjectId& layer) const {
-  const LayerLook& layerLook = m_layers.of(layer);
-  Look look;
-  look.color = entity.color().isByLayer()   ? layerLook.color
-               : entity.color().isByBlock() ? frame.byBlock.color
-                                            : Color::fromIndex(entity.colorIndex());
-  const std::uint8_t inherited = entity.color().isByBlock() ? frame.byBlock.color.alpha : 255;
-  look.color.alpha = std::min(layerLook.color.alpha, inherited);
-  if (const DxfTag* tag = tags.common(420)) {
-    look.color = Color::fromTrueColor(IntegerOf(*tag));
-    look.color.alpha = layerLook.color.alpha;
-  }
-  if (const DxfTag* tag = tags.common(440))
-    if (const auto alpha = EntityAlpha(IntegerOf(*tag))) look.color.alpha = *alpha;
-
-  const auto* linetype = AcDbSymbolTableRecord::cast(entity.linetypeId().object());
-  if (!linetype || linetype->name().CompareNoCase(L"ByLayer") == 0)
-    look.linetype = layerLook.linetype;
-  else if (linetype->name().CompareNoCase(L"ByBlock") == 0)
-    look.linetype = frame.byBlock.linetype;
-  else
-    look.linetype = entity.linetypeId();
-  look.linetypeScale = entity.linetypeScale() > 0 ? entity.linetypeScale() : 1;
-
-  int weight = entity.lineWeight();
-  if (weight == AcDb::kLnWtByLayer) weight = layerLook.weight;
-  if (weight == AcDb::kLnWtByBlock) weight = frame.byBlock.weight;
-  look.weight = weight < 0 ? kDefaultWeight : weight;
-  return look;
-}
-
 void SceneBuilder::drawEntity(const Frame& frame, const AcDbObjectId& id) {
   const auto* entity = AcDbEntity::cast(id.object());
   if (!entity || entity->isErased() || entity->visibility() == AcDb::kInvisible) return;
   if (++m_entities > m_options.limits.entities) return exhaust(L"图块展开后的实体太多，其后的未画");
   const DxfRecord& record = entity->record();
   const std::string_view type = record.type();
-  const AcDbObjectId layer = effectiveLayer(frame, *entity);
-  const bool hidden = isHidden(frame, layer, type == "INSERT");
+  const AcDbObjectId layer = m_looks.layerOf(frame, entity->layerId());
+  const bool hidden = m_looks.isHidden(frame, layer, type == "INSERT");
   if (hidden && type != "VIEWPORT") return; // whose border alone hides with its layer
   EntityTags own;
   const EntityTags& tags = tagsOf(*entity, frame.depth > 0, own);
-  Look look = lookOf(frame, *entity, tags, layer);
+  Look look = m_looks.lookOf(frame, *entity, tags, layer);
   look.hidden = hidden;
   Pen pen(*this, frame, *entity, tags, look);
   if (const Painter painter = PainterOf(type)) return painter(pen);
   WorldDrawPen draw(pen);
-  entity->worldDraw(draw);
-  if (draw.isEmpty()) m_leftOut.add(CString::FromUtf8(type) + L" 未画", entity->handle());
+  draw.entity();
+  if (draw.isEmpty()) leaveOut(CString::FromUtf8(type) + L" 未画", *entity);
 }
 
 Scene BuildScene(AcDbDatabase& database, const AcDbObjectId& space, const SceneOptions& options) {

@@ -3,14 +3,14 @@
 
 #include "host/scene/BuildScene.h"
 #include "host/scene/DrawOrder.h"
-#include "host/scene/DrawingVariables.h"
+#include "host/scene/DrawingLooks.h"
 #include "host/scene/EntityTags.h"
 #include "host/scene/LayerLooks.h"
 #include "host/scene/LeftOut.h"
 #include "host/scene/LinetypePatterns.h"
-#include "host/scene/Look.h"
-#include "host/scene/text/StyleLook.h"
+#include "host/scene/LookRules.h"
 
+#include <memory>
 #include <unordered_map>
 
 class AcDbBlockTableRecord;
@@ -32,12 +32,16 @@ class SceneBuilder {
 
   // For pens:
 
-  AcDbDatabase& database() const { return m_database; }
+  // The drawing whose entities are being drawn: within an external reference the one that is referred to.
+  AcDbDatabase& database() const { return m_drawing->database; }
   const SceneOptions& options() const { return m_options; }
-  const DrawingVariables& variables() const { return m_variables; }
+  const DrawingVariables& variables() const { return m_drawing->variables; }
   const TextMetrics& metrics() const { return *m_metrics; }
-  StyleLooks& styles() { return m_styles; }
-  LeftOut& leftOut() { return m_leftOut; }
+  const StyleLooks& styles() const { return m_drawing->styles; }
+  const LookRules& looks() const { return m_looks; }
+  // Tells what of an entity is not in the picture. Within an external reference the user can find only the
+  // entity of the space that shows it.
+  void leaveOut(const CString& what, const AcDbEntity& entity);
   std::int32_t addClip(Path path, std::int32_t within);
   std::int32_t pattern(const Look& look, double linetypeLength, bool bySegment);
   // False when there is no room left.
@@ -47,15 +51,17 @@ class SceneBuilder {
                  const AcGeMatrix3d& toSpace);
   // An entity that belongs to another and follows its layer as the contents of a block do.
   void drawPart(const Frame& outer, const Look& look, const AcDbEntity& whole, const AcDbObjectId& part);
+  // The same of any entity, through a matrix.
+  void drawNested(const Frame& outer, const Look& look, const AcDbEntity& whole, const AcDbObjectId& nested,
+                  const AcGeMatrix3d& toSpace);
   void drawEntity(const Frame& frame, const AcDbObjectId& id);
   bool isExhausted() const { return m_exhausted; }
 
  private:
   const EntityTags& tagsOf(const AcDbEntity& entity, bool keep, EntityTags& own);
-  AcDbObjectId effectiveLayer(const Frame& frame, const AcDbEntity& entity) const;
-  bool isHidden(const Frame& frame, const AcDbObjectId& layer, bool isInsertion) const;
-  Look lookOf(const Frame& frame, const AcDbEntity& entity, const EntityTags& tags,
-              const AcDbObjectId& layer) const;
+  Frame blockFrame(const Frame& outer, const Look& look, const AcDbEntity& insertion,
+                   const AcGeMatrix3d& toSpace) const;
+  const DrawingLooks& drawingOf(const AcDbBlockTableRecord& block);
   // How far the scene was filled, to take back what was added since.
   struct Mark {
     std::size_t verbs, points, primitives, texts;
@@ -66,12 +72,13 @@ class SceneBuilder {
   void endGroup();
   void exhaust(const wchar_t* what);
 
-  AcDbDatabase& m_database;
   SceneOptions m_options;
-  DrawingVariables m_variables;
+  DrawingLooks m_own;
+  std::unordered_map<const AcDbDatabase*, std::unique_ptr<DrawingLooks>> m_referenced;
+  const DrawingLooks* m_drawing = &m_own;
   LayerLooks m_layers;
+  LookRules m_looks{m_layers};
   LinetypePatterns m_linetypes;
-  StyleLooks m_styles;
   LeftOut m_leftOut;
   DrawOrder m_order;
   const TextMetrics* m_metrics;

@@ -1,7 +1,9 @@
 // INSERT: a block in its place, in rows and columns, perhaps clipped, and its attributes.
 #include "host/db/AcDbBlockReference.h"
+#include "host/db/MissingReference.h"
 #include "host/scene/BlockClip.h"
 #include "host/scene/SceneBuilder.h"
+#include "host/scene/WorldDrawPen.h"
 #include "host/scene/painters/Painters.h"
 
 #include <algorithm>
@@ -10,6 +12,10 @@
 void scene::painters::Insert(Pen& pen) {
   const auto* reference = AcDbBlockReference::cast(&pen.entity());
   if (!reference) return;
+  if (entity::missingReferenceOf(*reference)) {
+    WorldDrawPen(pen).entity();
+    return pen.leaveOut(L"外部参照未载入");
+  }
   const EntityTags& tags = pen.tags();
   const AcGeMatrix3d transform = reference->blockTransform();
   const long long columns = std::clamp<long long>(tags.integer(70, 1), 1, 32767);

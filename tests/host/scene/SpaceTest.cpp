@@ -1,3 +1,4 @@
+#include "host/db/AcDbBlockReference.h"
 #include "host/db/AcDbEntity.h"
 #include "host/db/AcGiWorldDraw.h"
 #include "host/scene/InfiniteLine.h"
@@ -6,6 +7,9 @@
 #include "tests/host/scene/Picture.h"
 
 #include <gtest/gtest.h>
+
+#include <functional>
+#include <stdexcept>
 
 using Kind = scene::Primitive::Kind;
 
@@ -63,6 +67,120 @@ TEST(Space, EntitiesOfPlugInsDrawThemselves) {
   EXPECT_EQ(L"14片", p.text().text);
   ASSERT_EQ(1u, p.scene.groups.size());
   EXPECT_EQ(id, p.scene.groups[0].entity);
+}
+
+namespace {
+
+// One that sets with what it draws, and shows others.
+class Sign : public AcDbEntity {
+ public:
+  std::function<void(AcGiWorldDraw&)> drawing;
+  Adesk::Boolean subWorldDraw(AcGiWorldDraw* draw) override {
+    drawing(*draw);
+    return Adesk::kTrue;
+  }
+  static void line(AcGiWorldDraw& draw, double y) {
+    const AcGePoint3d ends[] = {{0, y, 0}, {4, y, 0}};
+    draw.polyline(ends);
+  }
+};
+
+// The picture of a sign of colour 2 on a layer of colour 1.
+Picture signPicture(const std::function<void(AcGiWorldDraw&)>& drawing,
+                    const std::string& others = "0 POINT|8 0|10 0|20 0") {
+  Picture p(Parts{
+      .entities = others,
+      .layers = "0 LAYER|5 A1|2 OWN|70 0|62 1|6 DASHED|370 50|0 LAYER|5 A2|2 OTHER|70 0|62 3|6 Continuous|"
+                "370 30|0 LAYER|5 A3|2 FROZEN|70 1|62 4|6 Continuous",
+      .linetypes = "0 LTYPE|5 A4|2 DASHED|70 0|3 x|72 65|73 2|40 3|49 2|49 -1"});
+  AcDbObjectId id;
+  {
+    AcDbObjectPointer<AcDbBlockTableRecord> space(p.database->modelSpaceId(), AcDb::kForWrite);
+    auto* sign = new Sign;
+    sign->drawing = drawing;
+    EXPECT_EQ(Acad::eOk, space->appendAcDbEntity(id, sign));
+    EXPECT_EQ(Acad::eOk, sign->setLayer(L"OWN"));
+    EXPECT_EQ(Acad::eOk, sign->setColorIndex(2));
+    sign->close();
+  }
+  p.scene = scene::BuildScene(*p.database, std::span(&id, 1), {});
+  return p;
+}
+
+AcDbObjectId objectOf(AcDbDatabase& database, std::uint64_t handle) {
+  AcDbObjectId id;
+  EXPECT_EQ(Acad::eOk, database.getAcDbObjectId(id, false, AcDbHandle(handle)));
+  return id;
+}
+
+} // namespace
+
+TEST(Space, WhatAnEntitySetsHoldsForWhatItDrawsNext) {
+  const Picture p = signPicture([](AcGiWorldDraw& draw) {
+    auto& traits = draw.subEntityTraits();
+    Sign::line(draw, 0);
+    traits.setColor(5);
+    Sign::line(draw, 1);
+    traits.setColor(256);
+    Sign::line(draw, 2);
+    traits.setLineWeight(AcDb::kLnWt070);
+    Sign::line(draw, 3);
+    traits.setLayer(objectOf(*traits.layer().database(), 0xA2));
+    traits.setLineWeight(AcDb::kLnWtByLayer);
+    Sign::line(draw, 4);
+    traits.setLayer(objectOf(*traits.layer().database(), 0xA3));
+    Sign::line(draw, 5);
+  });
+  const auto strokes = p.all(Kind::stroke);
+  ASSERT_EQ(5u, strokes.size()) << "nothing is drawn on a frozen layer";
+  EXPECT_EQ(scene::Color::fromIndex(2), strokes[0].color) << "its own at first";
+  EXPECT_EQ(scene::Color::fromIndex(5), strokes[1].color);
+  EXPECT_EQ(scene::Color::fromIndex(1), strokes[2].color) << "by its layer";
+  EXPECT_EQ(50, strokes[2].weight);
+  EXPECT_NE(scene::Primitive::kNone, strokes[2].pattern);
+  EXPECT_EQ(70, strokes[3].weight);
+  EXPECT_EQ(scene::Color::fromIndex(3), strokes[4].color);
+  EXPECT_EQ(30, strokes[4].weight);
+  EXPECT_EQ(scene::Primitive::kNone, strokes[4].pattern);
+}
+
+TEST(Space, AnEntityMayShowAnInsertionOfABlock) {
+  const Parts block = {
+      .blocks = "0 BLOCK|8 0|2 B|70 0|10 0|20 0|3 B|1 |0 LINE|8 0|10 0|20 0|11 1|21 0|62 0|"
+                "0 HATCH|8 0|10 0|20 0|30 0|210 0|220 0|230 1|2 SOLID|70 1|71 0|91 1|92 2|72 0|73 1|93 4|"
+                "10 0|20 0|10 1|20 0|10 1|20 1|10 0|20 1|97 0|75 0|76 1|98 0|0 ENDBLK|8 0"};
+  Picture p(block);
+  AcDbObjectId id;
+  AcDbObjectId blockId;
+  {
+    AcDbObjectPointer<AcDbBlockTable> blocks(p.database->blockTableId(), AcDb::kForRead);
+    ASSERT_EQ(Acad::eOk, blocks->getAt(L"B", blockId));
+    AcDbObjectPointer<AcDbBlockTableRecord> space(p.database->modelSpaceId(), AcDb::kForWrite);
+    auto* sign = new Sign;
+    sign->drawing = [&](AcGiWorldDraw& draw) {
+      AcDbBlockReference reference({7, 0, 0}, blockId);
+      draw.pushModelTransform(AcGeMatrix3d::translation({0, 3, 0}));
+      reference.worldDraw(draw);
+      draw.popModelTransform();
+    };
+    ASSERT_EQ(Acad::eOk, space->appendAcDbEntity(id, sign));
+    sign->setColorIndex(4);
+    sign->close();
+  }
+  p.scene = scene::BuildScene(*p.database, std::span(&id, 1), {});
+  EXPECT_EQ(scene::Color::fromIndex(4), p.only(Kind::stroke).color) << "by block is the entity's";
+  EXPECT_DOUBLE_EQ(7, p.points(p.only(Kind::stroke))[0].x);
+  EXPECT_DOUBLE_EQ(3, p.points(p.only(Kind::stroke))[0].y);
+  EXPECT_EQ(1u, p.all(Kind::fill).size()) << "kinds that only the picture knows come too";
+}
+
+TEST(Space, AnEntityThatFailsToDrawIsTold) {
+  const Picture p = signPicture([](AcGiWorldDraw& draw) {
+    Sign::line(draw, 0);
+    throw std::runtime_error("x");
+  });
+  EXPECT_TRUE(p.toldOf(L"实体画图时出错"));
+  EXPECT_EQ(1u, p.count());
 }
 
 TEST(Space, ALayoutShowsModelSpaceThroughItsViewport) {
