@@ -1,6 +1,6 @@
 // Loads plug-ins and takes them out again. A plug-in goes only when it has unlocked itself and none of its
-// commands is running; its commands are gone before its code is. Objects of its entity classes wake up in open
-// drawings when it comes, and are kept as they are when it goes.
+// commands is running; its commands are gone before its code is. Objects of its entity classes wake up in
+// open drawings when it comes, and are kept as they are when it goes.
 #pragma once
 
 #include "host/afx/CString.h"

@@ -53,7 +53,8 @@ bool Autosave::save() {
     const QString base = QStringLiteral("%1/%2").arg(m_own).arg(number);
     const auto note =
         afx::WriteFileAtomically(FromQt(base + QStringLiteral(".txt")), NoteOf(*document).ToUtf8());
-    const auto report = dxf::WriteDrawing(*document->database(), FromQt(base + QStringLiteral(".dxf")), {{}, {}, true});
+    const auto report =
+        dxf::WriteDrawing(*document->database(), FromQt(base + QStringLiteral(".dxf")), {{}, {}, true});
     if (!note.ok || !report.ok) afx::LogError(L"自动保存：" + (note.ok ? report.error : note.message));
     kept[document] = number;
   }
