@@ -28,6 +28,7 @@ CString LabelTextOf(const PickedPipe& pipe) {
   int code = 0;
   if (pipe.kind == PipeKind::main || !attributes.GetCode(code)) return size;
   attributes.GetPreLable(prefix);
+  if (prefix.IsEmpty() && code == 0) return size; // what a riser has that nobody numbered
   return prefix + ZP::itoa(code) + L" " + size;
 }
 

@@ -5,8 +5,8 @@
 
 namespace workbench {
 
-// By the label scheme of the pipe's material; a riser's number stands ahead: "L3 DN25". A material that the
-// catalogue lacks is labelled by its diameter alone, "DN25".
+// By the label scheme of the pipe's material; a riser's number stands ahead, unless it is 0 without a prefix:
+// "L3 DN25". A material that the catalogue lacks is labelled by its diameter alone, "DN25".
 CString LabelTextOf(const PickedPipe& pipe);
 
 } // namespace workbench
