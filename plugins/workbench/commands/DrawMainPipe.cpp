@@ -4,11 +4,11 @@
 #include "host/db/AcDbObjectPointer.h"
 #include "host/ed/AcApDocManager.h"
 #include "host/ed/acutPrintf.h"
-#include "plugin/pipes/CZPPipeMaterial.h"
 #include "plugin/pipes/attributes/CZPMainPipe.h"
 #include "plugins/workbench/Asking.h"
 #include "plugins/workbench/Commands.h"
 #include "plugins/workbench/LayerPlacing.h"
+#include "plugins/workbench/NewPipe.h"
 #include "plugins/workbench/PipeQuestions.h"
 
 #include <vector>
@@ -20,10 +20,9 @@ constexpr const wchar_t* kUsualLayers[] = {L"采暖供水干管", L"采暖回水
                                            L"供水干管",     L"回水干管",     L"冷凝水干管",   nullptr};
 constexpr double kMillimetresInAMetre = 1000;
 
-struct MainPipe {
-  CString layer;
-  const CZPPipeMaterial* material = nullptr;
-  SZPPipeDNData diameter;
+constexpr PipePresets kPresets{L"干管", kUsualLayers, 50};
+
+struct MainPipe : NewPipe {
   double elevation = 0; // m
 };
 
@@ -39,31 +38,11 @@ bool AskElevationOf(MainPipe& pipe) {
   return elevation.has_value();
 }
 
-// False for Escape.
-bool AskMainPipe(MainPipe& pipe) {
-  if (!AskPlacingLayer(Remembered(L"干管\\图层标识", kUsualLayers[0]), kUsualLayers, pipe.layer))
-    return false;
-  pipe.material = AskMaterial(Remembered(L"干管\\管材", L""));
-  if (!pipe.material) return false;
-  pipe.diameter.dbNominal = Remembered(L"干管\\管径", 50);
-  pipe.elevation = Remembered(L"干管\\标高", 3);
-  return AskDiameterOf(pipe) && AskElevationOf(pipe);
-}
-
-void RememberMainPipe(const MainPipe& pipe) {
-  Remember(L"干管\\图层标识", pipe.layer);
-  Remember(L"干管\\管材", pipe.material->GetName());
-  Remember(L"干管\\管径", pipe.diameter.dbNominal);
-  Remember(L"干管\\标高", pipe.elevation);
-}
-
 AcDbObjectId AppendMainPipe(const AcGePoint3d& from, const AcGePoint3d& to, const MainPipe& pipe) {
   const auto id = AppendOnLayer(std::make_unique<AcDbLine>(from, to), pipe.layer);
   if (id.isNull()) return id;
   CZPMainPipe attributes(id);
-  attributes.InitEntityXdata();
-  attributes.SetMaterial(pipe.material->GetName());
-  attributes.SetDN(pipe.diameter.dbNominal);
+  WriteNewPipe(attributes, pipe);
   attributes.SetElevation(pipe.elevation);
   return id;
 }
@@ -123,13 +102,15 @@ class Run {
 
 void DrawMainPipe() {
   MainPipe pipe;
-  if (!AskMainPipe(pipe)) return;
+  pipe.elevation = Remembered(L"干管\\标高", 3);
+  if (!AskNewPipe(kPresets, pipe) || !AskElevationOf(pipe)) return;
   const auto start = ed::AskPoint({L"指定起点:", {}, RSG_NONULL, {}});
   if (!start.hasValue()) return;
   Run run(pipe, start.point);
   if (!run.draw()) return;
   run.tell();
-  RememberMainPipe(pipe);
+  RememberNewPipe(kPresets, pipe);
+  Remember(L"干管\\标高", pipe.elevation);
 }
 
 } // namespace workbench

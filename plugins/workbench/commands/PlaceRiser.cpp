@@ -2,12 +2,12 @@
 #include "host/db/AcDbBlockReference.h"
 #include "host/ed/acutPrintf.h"
 #include "plugin/graph/DrawingSettings.h"
-#include "plugin/pipes/CZPPipeMaterial.h"
 #include "plugin/pipes/attributes/CZPRiserPipe.h"
 #include "plugin/tools/RiserBlock.h"
 #include "plugins/workbench/Asking.h"
 #include "plugins/workbench/Commands.h"
 #include "plugins/workbench/LayerPlacing.h"
+#include "plugins/workbench/NewPipe.h"
 #include "plugins/workbench/PipeQuestions.h"
 
 namespace workbench {
@@ -19,6 +19,8 @@ constexpr Range kNumbers{0, 99999};
 constexpr double kRadiusOnPaper = 1; // mm, of the block unless the user says otherwise
 constexpr Range kRadii{0.1, 10000};  // drawing units
 
+constexpr PipePresets kPresets{L"立管", kUsualLayers, 25};
+
 // The blocks that draw a riser, by the word that chooses them.
 struct Look {
   const wchar_t* keyword;
@@ -26,10 +28,7 @@ struct Look {
 };
 constexpr Look kLooks[] = {{L"空心", L"KOR_PMT_KXG_1.2"}, {L"实心", L"KOR_PMT_SXG_1.2"}};
 
-struct Riser {
-  CString layer;
-  const CZPPipeMaterial* material = nullptr;
-  SZPPipeDNData diameter;
+struct Riser : NewPipe {
   double start = 0; // m
   double end = 0;   // m
   CString look;
@@ -72,22 +71,8 @@ bool AskNumbering(Riser& riser) {
   return number.has_value();
 }
 
-// False for Escape.
-bool AskRiser(Riser& riser) {
-  if (!AskPlacingLayer(Remembered(L"立管\\图层标识", kUsualLayers[0]), kUsualLayers, riser.layer))
-    return false;
-  riser.material = AskMaterial(Remembered(L"立管\\管材", L""));
-  if (!riser.material) return false;
-  const auto diameter = AskDiameter(*riser.material, Remembered(L"立管\\管径", 25));
-  if (!diameter) return false;
-  riser.diameter = *diameter;
-  return AskElevations(riser) && AskLook(riser) && AskNumbering(riser);
-}
-
 void RememberRiser(const Riser& riser) {
-  Remember(L"立管\\图层标识", riser.layer);
-  Remember(L"立管\\管材", riser.material->GetName());
-  Remember(L"立管\\管径", riser.diameter.dbNominal);
+  RememberNewPipe(kPresets, riser);
   Remember(L"立管\\始点标高", riser.start);
   Remember(L"立管\\终点标高", riser.end);
   Remember(L"立管\\图块", riser.look);
@@ -108,9 +93,7 @@ bool AppendRiser(const AcGePoint3d& at, const Riser& riser) {
   const auto id = AppendOnLayer(std::move(insertion), riser.layer);
   if (id.isNull()) return false;
   CZPRiserPipe attributes(id);
-  attributes.InitEntityXdata();
-  attributes.SetMaterial(riser.material->GetName());
-  attributes.SetDN(riser.diameter.dbNominal);
+  WriteNewPipe(attributes, riser);
   attributes.SetStartElevation(riser.start);
   attributes.SetEndElevation(riser.end);
   attributes.SetCode(riser.number);
@@ -122,7 +105,8 @@ bool AppendRiser(const AcGePoint3d& at, const Riser& riser) {
 
 void PlaceRiser() {
   Riser riser;
-  if (!AskRiser(riser)) return;
+  if (!AskNewPipe(kPresets, riser) || !AskElevations(riser) || !AskLook(riser) || !AskNumbering(riser))
+    return;
   int placed = 0;
   while (true) {
     const auto at =
