@@ -26,18 +26,19 @@ std::unique_ptr<AcDbCircle> CircleOf(const AcDbBlockReference& symbol) {
   return std::unique_ptr<AcDbCircle>(static_cast<AcDbCircle*>(parts.front().release()));
 }
 
-// Whether one end of the pipe, and nothing else of it, lies on the circle, with the joint ahead.
-void RunBack(AcDbCurve& pipe, const AcDbCircle& circle, const AcGePoint3d& joint) {
+// A pipe of which one end, and nothing else, lies on the circle, with the joint ahead, runs to the joint
+// again. Whether it did.
+bool RunBack(AcDbCurve& pipe, const AcDbCircle& circle, const AcGePoint3d& joint) {
   const AcDbPoint place(joint);
   std::vector<AcGePoint3d> points;
-  if (pipe.intersectWith(&place, AcDb::kExtendThis, points) != Acad::eOk || points.empty()) return;
+  if (pipe.intersectWith(&place, AcDb::kExtendThis, points) != Acad::eOk || points.empty()) return false;
   points.clear();
-  if (circle.intersectWith(&pipe, AcDb::kOnBothOperands, points) != Acad::eOk || points.size() != 1) return;
+  if (circle.intersectWith(&pipe, AcDb::kOnBothOperands, points) != Acad::eOk || points.size() != 1)
+    return false;
   AcGePoint3d end;
   if (pipe.getStartPoint(end) == Acad::eOk && points[0].isEqualTo(end))
-    ZP::ChangeCurveStart(&pipe, joint);
-  else if (pipe.getEndPoint(end) == Acad::eOk && points[0].isEqualTo(end))
-    ZP::ChangeCurveEnd(&pipe, joint);
+    return ZP::ChangeCurveStart(&pipe, joint);
+  return pipe.getEndPoint(end) == Acad::eOk && points[0].isEqualTo(end) && ZP::ChangeCurveEnd(&pipe, joint);
 }
 
 } // namespace
@@ -55,9 +56,9 @@ void ZPKwCl::CheckPipecoil(AcDbObjectIdArray& ids) {
     if (const auto circle = CircleOf(*symbol)) {
       if (!index) index.emplace(ids);
       for (const int position : index->Near(circle->center(), circle->radius())) {
-        const AcDbObjectPointer<AcDbCurve> pipe(ids[position], AcDb::kForWrite);
-        if (!pipe) continue;
-        RunBack(*pipe.object(), *circle, joint);
+        AcDbObjectPointer<AcDbCurve> pipe(ids[position], AcDb::kForWrite);
+        if (!pipe || !RunBack(*pipe.object(), *circle, joint)) continue;
+        pipe.close(); // to be read
         index->Refresh(ids[position]);
       }
     }

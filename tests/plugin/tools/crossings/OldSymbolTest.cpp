@@ -93,6 +93,16 @@ TEST_F(OldSymbols, GiveBackBothPartsOfASplitPipeWhichStaySplit) {
   expectRuns(lines[2], {0, 0, 0}, {1000, 0, 0});
 }
 
+TEST_F(OldSymbols, AtBothEndsOfAPipeGiveItBackAtBoth) {
+  const auto between = pipe({0, 0, 0}, {0, 800, 0}, 2.0);
+  pipe({0, 0, 0}, {-1000, 0, 0}, 3.0);
+  pipe({0, 800, 0}, {-1000, 800, 0}, 3.0);
+  runOverAll();
+  expectRuns(between, {0, 50, 0}, {0, 750, 0});
+  removeAll();
+  expectRuns(between, {0, 0, 0}, {0, 800, 0});
+}
+
 TEST_F(OldSymbols, GiveBackArcsAndPolylines) {
   const auto high = pipe({0, 0, 0}, {-1000, 0, 0}, 3.0);
   auto* bow = new AcDbArc({0, 500, 0}, {0, 0, 1}, 500, -std::numbers::pi / 2, 0);
