@@ -4,8 +4,10 @@
 #include "host/db/AcDbBlockTable.h"
 #include "host/db/AcDbDictionary.h"
 #include "host/db/AcDbObjectPointer.h"
+#include "host/db/AcDbXrecord.h"
 #include "host/db/Audit.h"
 #include "host/db/Purge.h"
+#include "host/db/resbuf.h"
 
 #include <gtest/gtest.h>
 
@@ -105,10 +107,45 @@ TEST(Audit, MarkersComeInTheirOrder) {
       AuditCheck::markers);
 }
 
-TEST(Audit, AMissingMarkerIsToldAndLeft) {
-  const Opened opened =
-      Open(drawing("0 LINE\n5 A1\n330 30\n100 AcDbEntity\n8 0\n10 0.0\n20 0.0\n30 0.0\n11 1.0\n21 0.0\n"
-                   "31 0.0"));
+// What the record of handle A1 is after the audit has repaired the entity.
+std::string afterRepair(const std::string& entity) {
+  const Opened opened = Open(drawing(entity));
+  acdbAudit(*opened.database, true);
+  AcDbObjectId id;
+  EXPECT_EQ(opened.database->getAcDbObjectId(id, false, AcDbHandle(0xA1)), Acad::eOk);
+  std::string text;
+  for (const DxfTag& tag : id.object()->record().tags())
+    text += std::to_string(tag.code) + " " + std::string(dxf::trimBlanks(tag.value)) + "\n";
+  return text;
+}
+
+TEST(Audit, MissingMarkersAreSetWhereTheyBelong) {
+  const std::string geometry = "10 0.0\n20 0.0\n30 0.0\n11 1.0\n21 0.0\n31 0.0\n";
+  const std::string whole = "0 LINE\n5 A1\n330 30\n100 AcDbEntity\n8 0\n62 3\n100 AcDbLine\n" + geometry;
+  const std::string head = "0 LINE\n5 A1\n330 30\n";
+  for (const std::string& damaged :
+       {head + "100 AcDbEntity\n8 0\n62 3\n" + geometry, head + "8 0\n62 3\n" + geometry,
+        head + "8 0\n" + geometry + "62 3\n", head + "100 AcDbLine\n8 0\n62 3\n" + geometry,
+        head + "100 AcDbEntity\n8 0\n62 3\n100 AcDbEntity\n" + geometry}) {
+    const std::string entity = damaged.substr(0, damaged.size() - 1);
+    EXPECT_EQ(afterRepair(entity), whole) << damaged;
+    expectRepaired(drawing(entity), AuditCheck::markers);
+  }
+}
+
+TEST(Audit, TheSecondMarkerOfATextStandsAheadOfItsVerticalAlignment) {
+  EXPECT_EQ(
+      afterRepair(
+          "0 TEXT\n5 A1\n330 30\n102 {ACAD_REACTORS\n330 C\n102 }\n8 0\n10 0.0\n20 0.0\n30 0.0\n40 2.5\n1 x\n"
+          "72 1\n11 1.0\n21 2.0\n31 0.0\n73 2\n1001 ACAD\n1000 y"),
+      "0 TEXT\n5 A1\n330 30\n102 {ACAD_REACTORS\n330 C\n102 }\n100 AcDbEntity\n8 0\n100 AcDbText\n10 0.0\n"
+      "20 0.0\n30 0.0\n40 2.5\n1 x\n72 1\n11 1.0\n21 2.0\n31 0.0\n100 AcDbText\n73 2\n1001 ACAD\n1000 y\n");
+}
+
+TEST(Audit, ARecordWithTheMarkerOfAnotherClassIsToldAndLeft) {
+  const Opened opened = Open(drawing(
+      "0 LINE\n5 A1\n330 30\n100 AcDbEntity\n8 0\n100 AcDbCircle\n10 0.0\n20 0.0\n30 0.0\n11 1.0\n21 0.0\n"
+      "31 0.0"));
   const auto found = acdbAudit(*opened.database, true);
   EXPECT_EQ(checks(found), Checks{AuditCheck::markers});
   EXPECT_FALSE(found.front().repaired);
@@ -163,11 +200,53 @@ TEST(Audit, AnExtensionDictionaryThatIsNotThereGoes) {
   expectRepaired(drawing(line), AuditCheck::danglingPointer);
 }
 
-TEST(Audit, ExtendedDataThatFilesMayNotHoldIsTold) {
-  const Opened uneven = Open(drawing(std::string(kLine) + "\n1001 ACAD\n1002 {\n1000 x"));
-  EXPECT_EQ(checks(acdbAudit(*uneven.database, true)), Checks{AuditCheck::extendedDataForm});
-  const Opened longText = Open(drawing(std::string(kLine) + "\n1001 ACAD\n1000 " + std::string(300, 'x')));
-  EXPECT_EQ(checks(acdbAudit(*longText.database, true)), Checks{AuditCheck::extendedDataForm});
+TEST(Audit, BracesOfExtendedDataArePaired) {
+  const std::string line = std::string(kLine) + "\n1001 ACAD\n";
+  expectRepaired(drawing(line + "1002 {\n1000 x"), AuditCheck::extendedDataForm);
+  expectRepaired(drawing(line + "1002 }\n1000 x"), AuditCheck::extendedDataForm);
+  const std::string repaired =
+      afterRepair(line + "1002 }\n1002 {\n1000 x\n1002 {\n1070 5\n1002 }\n1001 ACAD_PSEXT\n1000 y");
+  EXPECT_EQ(repaired.substr(repaired.find("1001 ")),
+            "1001 ACAD\n1002 {\n1000 x\n1002 {\n1070 5\n1002 }\n1002 }\n1001 ACAD_PSEXT\n1000 y\n");
+}
+
+TEST(Audit, LongTextsOfExtendedDataAreCutBetweenCharacters) {
+  const std::string line = std::string(kLine) + "\n1001 ACAD\n1000 ";
+  expectRepaired(drawing(line + std::string(300, 'x')), AuditCheck::extendedDataForm);
+  std::string text = "x";
+  for (int i = 0; i < 200; ++i) text += "管";
+  const std::string repaired = afterRepair(line + text);
+  EXPECT_EQ(repaired.substr(repaired.find("1000 ")), "1000 " + text.substr(0, 253) + "\n1000 " +
+                                                         text.substr(253, 255) + "\n1000 " +
+                                                         text.substr(508) + "\n");
+}
+
+TEST(Audit, MoreExtendedDataThanAnObjectMayHaveGoesToAnXrecord) {
+  std::string data;
+  for (int i = 0; i < 100; ++i) data += "\n1000 " + std::to_string(i) + std::string(200, 'x');
+  data += "\n1010 1.5\n1020 2.5\n1030 0.0\n1071 70000";
+  expectRepaired(drawing(std::string(kLine) + "\n1001 ACAD" + data), AuditCheck::extendedDataForm);
+  const Opened opened = Open(drawing(std::string(kLine) + "\n1001 ACAD\n1070 7\n1001 ACAD_PSEXT" + data));
+  EXPECT_TRUE(allRepaired(acdbAudit(*opened.database, true)));
+  const auto* entity = EntityAt(*opened.database, 0).object();
+  EXPECT_EQ(ResbufPtr(entity->xData(L"ACAD_PSEXT")), nullptr);
+  EXPECT_NE(ResbufPtr(entity->xData(L"ACAD")), nullptr) << "what fits stays";
+  const auto* dictionary = AcDbDictionary::cast(entity->extensionDictionary().object());
+  ASSERT_TRUE(dictionary);
+  AcDbObjectId id;
+  ASSERT_EQ(dictionary->getAt(L"ACAD_PSEXT", id), Acad::eOk);
+  resbuf* chain = nullptr;
+  ASSERT_EQ(AcDbXrecord::cast(id.object())->rbChain(&chain), Acad::eOk);
+  const ResbufPtr owned(chain);
+  std::size_t texts = 0;
+  const resbuf* last = nullptr;
+  for (const resbuf* item = chain; item; item = item->rbnext) {
+    texts += item->restype == 1 ? 1 : 0;
+    last = item;
+  }
+  EXPECT_EQ(texts, 100u);
+  EXPECT_EQ(last->restype, 90);
+  EXPECT_EQ(last->resval.rlong, 70000);
 }
 
 TEST(Audit, ValuesOutOfRangeAreReplaced) {
