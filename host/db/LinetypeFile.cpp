@@ -34,7 +34,7 @@ bool readPattern(CString text, LinetypeDefinition& definition, const wchar_t*& p
     piece.Trim();
     const wchar_t* end = nullptr;
     const double length = afx::wcstod(piece, &end);
-    if (piece.IsEmpty() || *end != 0 || !std::isfinite(length)) {
+    if (piece.IsEmpty() || end != piece.GetString() + piece.GetLength() || !std::isfinite(length)) {
       problem = L"划线长度不是数";
       return false;
     }
@@ -82,7 +82,9 @@ LinetypeFile readLinetypeText(std::string_view bytes, const CString& path) {
       continue;
     }
     const wchar_t* problem = nullptr;
-    if (readPattern(line, current, problem))
+    if (current.name.IsEmpty())
+      file.problems.push_back(lineMessage(path, currentLine, L"“*”之后应有线型名称"));
+    else if (readPattern(line, current, problem))
       file.linetypes.push_back(current);
     else
       file.problems.push_back(lineMessage(path, number, problem));

@@ -73,6 +73,22 @@ TEST_F(LinetypeFiles, ADamagedDefinitionIsNamedByLineAndTheOthersAreRead) {
   EXPECT_NE(file.problems[4].Find(L"第 10 行"), -1);
 }
 
+TEST_F(LinetypeFiles, ADefinitionWithoutANameIsNamedByTheLineOfItsStar) {
+  const auto file = readLinetypeText("*\nA,1,-1\n* ,described\nA,1,-1\n*C\nA,1,-1\n", L"t.lin");
+  ASSERT_EQ(file.linetypes.size(), 1u);
+  EXPECT_EQ(file.linetypes[0].name, L"C");
+  ASSERT_EQ(file.problems.size(), 2u);
+  EXPECT_NE(file.problems[0].Find(L"第 1 行"), -1);
+  EXPECT_NE(file.problems[1].Find(L"第 3 行"), -1);
+}
+
+TEST_F(LinetypeFiles, ADashWithAZeroCharacterBehindItsNumberIsNoNumber) {
+  const auto file = readLinetypeText(std::string_view("*A\nA,1,-1\0x\n", 12), L"t.lin");
+  EXPECT_TRUE(file.linetypes.empty());
+  ASSERT_EQ(file.problems.size(), 1u);
+  EXPECT_NE(file.problems[0].Find(L"第 2 行"), -1);
+}
+
 TEST_F(LinetypeFiles, AnyTextIsReadWithoutHarm) {
   std::string text = "*A,x\nA,1,-1\n*\n*,\nA\nA,\n\xff\xfe\n";
   for (std::size_t cut = 0; cut <= text.size(); ++cut) readLinetypeText(text.substr(0, cut), L"t.lin");
