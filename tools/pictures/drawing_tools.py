@@ -17,7 +17,11 @@ w -100,-400 2200,600
 R
 5000,3000
 """
+# The column goes: no tool could do that to a reference.
 XREFS = """WB_FZCZ
+ERASE
+5800,3000
+
 """
 WALLS = """PLINE
 0,0

@@ -48,7 +48,6 @@ class RoomsOfThePlugIn : public EditorFixture {
   }
   void Load() {
     ASSERT_TRUE(acrxDynamicLinkerPtr()->loadModule(m_file)) << acrxDynamicLinkerPtr()->lastError().ToUtf8();
-    acrxBuildClassHierarchy();
   }
 
   const CString m_file = CString::FromUtf8(ZP_PLUGIN_FILE);
