@@ -1,8 +1,13 @@
 #include "host/ed/EdTransients.h"
 
+#include "host/db/AcGiWorldDraw.h"
+
 void EdTransients::draw(AcGiWorldDraw& draw) const {
   const auto shown = m_shown; // a copy: drawing may show more
-  for (const auto* drawing : shown) (*drawing)(draw);
+  for (const auto* drawing : shown) {
+    draw.subEntityTraits() = AcGiSubEntityTraits(); // not those of the one before
+    (*drawing)(draw);
+  }
 }
 
 EdTransient::EdTransient(EdTransients& transients, EdTransients::Drawing drawing)

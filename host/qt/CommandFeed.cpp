@@ -45,6 +45,7 @@ std::optional<CommandFeed::Given> CommandFeed::ready() {
     m_lines.pop_front();
     return given;
   }
+  if (m_whenWaiting) std::exchange(m_whenWaiting, nullptr)();
   if (!m_jobs.empty() && !idle) return Given{kCancel};
   while (!m_jobs.empty() && !session.quitRequested()) {
     const auto job = std::move(m_jobs.front());

@@ -25,6 +25,8 @@ class CommandFeed {
   void cancel();
   // Done at the next command prompt; what runs is cancelled before.
   void whenIdle(std::function<void()> job);
+  // Done once a person has to answer, be it at the command prompt or in the middle of a command.
+  void whenWaiting(std::function<void()> job) { m_whenWaiting = std::move(job); }
   // Texts sent by programs, a dialog's events: something may have to be done now.
   void wake();
   // Ends the input for good.
@@ -39,6 +41,7 @@ class CommandFeed {
 
   std::deque<CString> m_lines;
   std::deque<std::function<void()>> m_jobs;
+  std::function<void()> m_whenWaiting;
   QEventLoop* m_loop = nullptr; // the innermost that waits
   bool m_closed = false;
 };

@@ -117,10 +117,11 @@ int Run(const DesktopJob& job, QSettings& settings, const QString& folder) {
     const auto shoot = [&](QWidget& widget) {
       if (!SavePicture(widget, *job.screenshot)) status = kUnusable;
       dialogTimer.stop();
-      session.requestQuit();
+      feed.whenIdle([&session] { session.requestQuit(); });
     };
-    feed.whenIdle([&, shoot] {
-      if (!dialogTimer.isActive()) return;
+    // The script may have ended in the middle of a command, to show what is dragged.
+    feed.whenWaiting([&, shoot] {
+      if (!dialogTimer.isActive() || QApplication::activeModalWidget()) return;
       QApplication::processEvents();
       shoot(window);
     });

@@ -2,7 +2,7 @@
 """Draws the pictures of docs/drawing-tools.md.
 
 Usage: tools/pictures/drawing_tools.py BUILD-FOLDER [OUTPUT-FOLDER]
-Each pair is a drawing of the tests before and after a tool of the workbench has worked on it."""
+Each is a drawing of the tests before, while or after a tool of the workbench works on it."""
 
 import sys
 
@@ -10,13 +10,25 @@ import exported
 
 DRAWINGS = exported.ROOT / "tests" / "drawings"
 
-GROUP = """WB_CZTD
+AREA = """WB_CLMJ
+0,0
+6000,0
+A
+6000,4000
+8000,2000
+L
+0,4000
+drag 300,2500
+"""
+# Dragged, and then dropped.
+DRAGGED = """WB_CZTD
 w -100,-400 2200,600
 
 0,0
 R
-5000,3000
+drag 3600,2600
 """
+DROPPED = DRAGGED + "5000,3000\n"
 # The column goes: no tool could do that to a reference.
 XREFS = """WB_FZCZ
 ERASE
@@ -59,15 +71,21 @@ S
 
 20
 """
+# In the program's window: name, what is typed, window of model space, files.
+SHOTS = [
+    ("measure", AREA, ("-1500,-1500", "9500,5500"), [DRAWINGS / "workbench_measure/expected.dxf"]),
+    ("group-dragged", DRAGGED, ("-500,-1500", "10000,8500"), [DRAWINGS / "workbench_group/input.dxf"]),
+    ("xrefs-before", "", ("-300,-300", "8300,5300"),
+     [DRAWINGS / "workbench_xrefs/input.dxf", DRAWINGS / "workbench_xrefs/floor.dxf"]),
+    ("xrefs-after", XREFS, ("-300,-300", "8300,5300"),
+     [DRAWINGS / "workbench_xrefs/input.dxf", DRAWINGS / "workbench_xrefs/floor.dxf"]),
+]
 ROOM = ("-500,-500", "12500,4500")
 GROUPED = ("-500,-1500", "7000,8500")
-REFERRED = ("-300,-300", "8300,5300")
-# Name, what is typed ahead of EXPORT, window, size of the sheet, files.
+# As EXPORT writes them: name, what is typed, window of model space, size of the sheet, files.
 PICTURES = [
     ("group-before", "", GROUPED, "90x120", [DRAWINGS / "workbench_group/input.dxf"]),
-    ("group-after", GROUP, GROUPED, "90x120", [DRAWINGS / "workbench_group/input.dxf"]),
-    ("xrefs-before", "", REFERRED, "129x84", [DRAWINGS / "workbench_xrefs/input.dxf", DRAWINGS / "workbench_xrefs/floor.dxf"]),
-    ("xrefs-after", XREFS, REFERRED, "129x84", [DRAWINGS / "workbench_xrefs/input.dxf", DRAWINGS / "workbench_xrefs/floor.dxf"]),
+    ("group-after", DROPPED, GROUPED, "90x120", [DRAWINGS / "workbench_group/input.dxf"]),
     ("rooms-before", WALLS, ROOM, "130x50", []),
     ("rooms-after", WALLS + ROOMS, ROOM, "130x50", []),
 ]
@@ -77,6 +95,8 @@ def main(arguments):
     program, output = exported.program_and_output(arguments, __doc__)
     for name, lines, window, size, files in PICTURES:
         exported.draw(program, output / f"tools-{name}.png", lines, window, size, files)
+    for name, lines, window, files in SHOTS:
+        exported.shoot(program, output / f"tools-{name}.png", lines, window, files)
 
 
 if __name__ == "__main__":

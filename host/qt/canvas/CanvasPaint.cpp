@@ -46,7 +46,7 @@ void Canvas::paintOverlay(QPainter& painter) {
   paintSelected(painter);
   painter.setPen(QPen(m_colors.selected, 1));
   const ViewMap shown = map();
-  WorldPainter draw(painter, shown, m_picture.outlines());
+  WorldPainter draw(painter, shown, m_picture.outlines(), m_colors.background);
   EdSession::instance().transients().draw(draw);
   painter.setRenderHint(QPainter::Antialiasing, false);
   if (!m_cursor) return;

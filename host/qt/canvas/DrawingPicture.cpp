@@ -42,6 +42,8 @@ bool DrawingPicture::update() {
   options.metrics = &metrics;
   auto& database = *m_document->database();
   m_scene = scene::BuildScene(database, ed::CurrentSpace(database), options);
+  const auto& hidden = m_document->edit().hidden;
+  std::erase_if(m_scene.groups, [&](const scene::Group& group) { return hidden.contains(group.entity); });
   return true;
 }
 

@@ -3,8 +3,8 @@
 #include "host/db/AcDbEntity.h"
 #include "host/ed/EntitySearch.h"
 #include "host/qt/QtText.h"
+#include "host/scene/Color.h"
 
-#include <QPainter>
 #include <QPolygonF>
 
 #include <algorithm>
@@ -23,11 +23,28 @@ bool IsOnScreen(const QPointF& p) {
 
 } // namespace
 
+WorldPainter::WorldPainter(QPainter& painter, const ViewMap& map, TextOutlines& outlines,
+                           const QColor& background)
+    : m_painter(painter), m_map(map), m_outlines(outlines), m_pen(painter.pen()), m_background(background) {}
+
+void WorldPainter::setPen() {
+  if (!m_background.isValid()) return;
+  const int index = subEntityTraits().color();
+  if (index == AcCmColor::kByLayer) return m_painter.setPen(m_pen);
+  const scene::Rgb rgb = scene::Color::fromIndex(index).on({static_cast<std::uint8_t>(m_background.red()),
+                                                            static_cast<std::uint8_t>(m_background.green()),
+                                                            static_cast<std::uint8_t>(m_background.blue())});
+  QPen pen = m_pen;
+  pen.setColor(QColor(rgb.red, rgb.green, rgb.blue));
+  m_painter.setPen(pen);
+}
+
 bool WorldPainter::beginEntity(const AcDbEntity& entity) {
   return ed::IsDrawn(entity);
 }
 
 void WorldPainter::worldPoint(const AcGePoint3d& at) {
+  setPen();
   const QPointF p = m_map.toScreen(at);
   if (!IsOnScreen(p)) return;
   m_painter.drawLine(p - QPointF(kPointMark, 0), p + QPointF(kPointMark, 0));
@@ -35,6 +52,7 @@ void WorldPainter::worldPoint(const AcGePoint3d& at) {
 }
 
 void WorldPainter::worldPolyline(std::span<const AcGePoint3d> points) {
+  setPen();
   QPolygonF polygon;
   polygon.reserve(static_cast<qsizetype>(points.size()));
   for (const AcGePoint3d& point : points) {
@@ -46,6 +64,7 @@ void WorldPainter::worldPolyline(std::span<const AcGePoint3d> points) {
 
 void WorldPainter::worldText(const AcGePoint3d& at, const AcGeVector3d& along, const AcGeVector3d& up,
                              const CString& text) {
+  setPen();
   const QPointF origin = m_map.toScreen(at);
   const double height = std::hypot(up.x, up.y);
   const double width = std::hypot(along.x, along.y);

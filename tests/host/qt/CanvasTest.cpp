@@ -1,6 +1,8 @@
 #include "host/db/AcDbCurves.h"
+#include "host/db/AcGiWorldDraw.h"
 #include "host/ed/ArxDbgUtils.h"
 #include "host/ed/ObjectSnap.h"
+#include "host/ed/acedWindows.h"
 #include "tests/host/qt/Desktop.h"
 
 #include <QWheelEvent>
@@ -163,6 +165,63 @@ TEST_F(CanvasOf, ADrawnLineIsSeenAndAnErasedOneIsNot) {
        [&] { drawn = pixel(); }, [&] { enter("u"); }, [&] { undone = pixel(); }});
   EXPECT_NE(empty, drawn);
   EXPECT_EQ(empty, undone);
+}
+
+TEST_F(CanvasOf, ADrawingLeavesOutWhatIsHiddenUntilItIsShownAgain) {
+  const auto pixel = [&] {
+    QApplication::processEvents();
+    return canvas().grab().toImage().pixelColor(at(50, 25));
+  };
+  const QColor empty = pixel();
+  const auto line = addLine({50, 0, 0}, {50, 50, 0});
+  const QColor drawn = pixel();
+  ASSERT_TRUE(acedSetEntityHidden(line, true));
+  EXPECT_EQ(empty, pixel());
+  ASSERT_TRUE(acedSetEntityHidden(line, false));
+  EXPECT_EQ(drawn, pixel());
+  EXPECT_NE(empty, drawn);
+}
+
+TEST_F(CanvasOf, WhatIsDraggedIsShownInTheColoursThatItSets) {
+  const auto isSeen = [&](const QColor& color) {
+    const QImage image = canvas().grab().toImage();
+    for (int x = -4; x <= 4; ++x)
+      if (image.pixelColor(at(50, 25) + QPoint(x, 0)) == color) return true;
+    return false;
+  };
+  const AcGePoint3d points[] = {{50, 0, 0}, {50, 50, 0}};
+  const EdTransient own(EdSession::instance().transients(), [&](AcGiWorldDraw& draw) {
+    draw.subEntityTraits().setColor(1);
+    for (double x = 49; x <= 51; x += 0.05) { // no smoothing in the middle
+      const AcGePoint3d line[] = {points[0] + AcGeVector3d(x - 50, 0, 0),
+                                  points[1] + AcGeVector3d(x - 50, 0, 0)};
+      draw.polyline(line);
+    }
+  });
+  EXPECT_TRUE(isSeen(QColor(255, 0, 0)));
+  // The next one is not red for that.
+  const EdTransient other(EdSession::instance().transients(), [&](AcGiWorldDraw& draw) {
+    for (double x = 49; x <= 51; x += 0.05) {
+      const AcGePoint3d line[] = {points[0] + AcGeVector3d(x - 50, 0, 0),
+                                  points[1] + AcGeVector3d(x - 50, 0, 0)};
+      draw.polyline(line);
+    }
+  });
+  EXPECT_FALSE(isSeen(QColor(255, 0, 0)));
+}
+
+TEST_F(CanvasOf, AScriptMayEndInTheMiddleOfADrag) {
+  bool inCommand = false;
+  QTimer::singleShot(0, [&] { feed.submit(L"line"); });
+  QTimer::singleShot(50, [&] {
+    feed.whenWaiting([&] {
+      inCommand = EdSession::instance().commandDepth() > 0;
+      feed.close();
+    });
+    feed.wake();
+  });
+  EdSession::instance().run();
+  EXPECT_TRUE(inCommand);
 }
 
 } // namespace
