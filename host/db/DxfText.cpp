@@ -78,9 +78,12 @@ std::string dxf::encodeText(const CString& text) {
   std::wstring escaped;
   escaped.reserve(view.size());
   for (const wchar_t c : view) {
+    // Behind half a double-byte character an escape would be taken for the other half; a control character
+    // never is.
+    const bool isBehindHalf = !escaped.empty() && escaped.back() >= 0xDC80 && escaped.back() <= 0xDCFF;
     if (c == L'^') {
       escaped += L"^ ";
-    } else if (c >= 0 && c < 0x20) {
+    } else if (c >= 0 && c < 0x20 && (!isBehindHalf || c == L'\n' || c == L'\r')) {
       escaped += L'^';
       escaped += static_cast<wchar_t>(c + '@');
     } else {

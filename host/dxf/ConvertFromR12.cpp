@@ -31,7 +31,8 @@ Pieces takenApart(DxfTags tags, int handleCode) {
   Pieces pieces;
   bool inGroup = false;
   for (const DxfTag& tag : tags.subspan(std::min<std::size_t>(1, tags.size()))) {
-    if (tag.code >= 1000) {
+    // What is wrongly behind extended data is read as a part of it, and stays one.
+    if (tag.code >= 1000 || !pieces.extendedData.empty()) {
       append(pieces.extendedData, tag);
     } else if (tag.code == 102 || inGroup) {
       if (tag.code == 102) inGroup = tag.value.starts_with("{");
@@ -79,7 +80,9 @@ bool isArrowName(const DxfTag& tag) {
 std::string dxf::VersionConverter::fromR12(const AcDbObject& object, DxfTags tags) {
   if (tags.empty()) return {};
   const std::string_view type = trimBlanks(tags.front().value);
-  const bool isDimensionStyle = type == "DIMSTYLE";
+  // What stands among the entities is read as one, whatever its record is called.
+  const bool isEntity = AcDbEntity::cast(&object) != nullptr;
+  const bool isDimensionStyle = type == "DIMSTYLE" && !isEntity;
   const int handleCode = isDimensionStyle ? 105 : 5;
   Pieces pieces = takenApart(tags, handleCode);
   if (pieces.comments > 0) m_losses.add(L"注释", pieces.comments);
@@ -88,13 +91,11 @@ std::string dxf::VersionConverter::fromR12(const AcDbObject& object, DxfTags tag
   const std::string handle =
       Editor::tag(handleCode, object.handle().toHex()) + pieces.groups +
       Editor::tag(330, object.ownerId().isNull() ? std::string("0") : object.ownerId().handle().toHex());
-  if (type == "TABLE") {
-    const auto* table = AcDbSymbolTable::cast(&object);
-    text += Editor::tag(2, table ? table->recordType() : std::string_view()) + handle +
-            Editor::tag(100, "AcDbSymbolTable");
+  if (const auto* table = AcDbSymbolTable::cast(&object)) {
+    text += Editor::tag(2, table->recordType()) + handle + Editor::tag(100, "AcDbSymbolTable");
     for (const DxfTag& tag : pieces.own)
       if (tag.code == 70) append(text, tag);
-    if (table && table->recordType() == "DIMSTYLE")
+    if (table->recordType() == "DIMSTYLE")
       text += Editor::tag(100, "AcDbDimStyleTable") + Editor::tag(71, "0");
     return text + pieces.extendedData;
   }
@@ -109,8 +110,9 @@ std::string dxf::VersionConverter::fromR12(const AcDbObject& object, DxfTags tag
     std::erase_if(pieces.own, isArrowName);
   }
   const auto parts = subclassParts(type, pieces.own);
-  if (parts.empty()) { // a type that R12 doesn't have: what it may be is not known
-    if (AcDbEntity::cast(&object)) text += Editor::tag(100, "AcDbEntity");
+  const bool isForeign = isEntity && !parts.empty() && parts.front().marker != "AcDbEntity";
+  if (parts.empty() || isForeign) { // a type that R12 doesn't have there: what it may be is not known
+    if (isEntity) text += Editor::tag(100, "AcDbEntity");
     for (const DxfTag& tag : pieces.own) append(text, tag);
     return text + pieces.extendedData;
   }

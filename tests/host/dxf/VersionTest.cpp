@@ -233,6 +233,25 @@ TEST(Version, ADrawingOfR12GetsHandlesOwnersMarkersAndLayouts) {
   EXPECT_EQ(savedAs(again, dxf::kR2018).bytes, converted.bytes);
 }
 
+// Damaged drawings of R12: what was written in another version is read and written again as it stands.
+TEST(Version, WhatStandsWhereItDoesNotBelongInR12ComesOutOnceAndForAll) {
+  const std::string tail = "\n0 LINE\n8 0\n10 1.0\n20 2.0\n11 3.0\n21 4.0";
+  for (const std::string& entities : {
+           "0 DIMSTYLE\n2 A\n70 0" + tail,                      // an entry of a table among entities
+           "0 TABLE\n2 LAYER\n70 1\n0 LAYER\n2 A\n70 0" + tail, // a whole table
+           "0 XRECORD\n1 x" + tail,                             // an object
+           "0 POINT\n10 1.0\n20 2.0\n1001 ACAD\n1000 x\n8 A\n62 3" + tail, // behind extended data
+           "0 POINT\n8 0\xC0\x1F\n10 1.0\n20 2.0" + tail, // half a character ahead of a control character
+       }) {
+    std::string file = DrawingOf(entities, "AC1009");
+    file.insert(file.find("0\nENDSEC"), "9\n$DWGCODEPAGE\n3\nANSI_936\n");
+    const Opened opened = Open(file);
+    ASSERT_TRUE(opened.ok()) << opened.error();
+    const std::string first = savedAs(opened, dxf::kR2000).bytes;
+    EXPECT_EQ(Open(first).saved(), first) << entities;
+  }
+}
+
 TEST(Version, ChosenOnceIsUsedForEverySaveAfter) {
   const Opened opened = Open(withApplication(kPolyline, "AC1027"));
   opened.database->form().saveVersion = dxf::kR2000;
