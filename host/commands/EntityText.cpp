@@ -99,7 +99,12 @@ CString geometryText(const AcDbEntity& entity) {
   if (const auto* point = AcDbPoint::cast(&entity)) return row(L"位置", PointText(point->position()));
   if (const auto* text = AcDbText::cast(&entity)) return textText(*text);
   if (const auto* insert = AcDbBlockReference::cast(&entity)) return insertText(*insert);
-  return L"  几何：不作解释，原样保存\n";
+  if (!entity.isA()->isCustom()) return L"  几何：不作解释，原样保存\n";
+  AcDbExtents box;
+  const CString owner =
+      CString(entity.isA()->name()) + L"（" + CString::FromUtf8(entity.isA()->application()) + L"）";
+  if (entity.getGeomExtents(box) != Acad::eOk) return row(L"类", owner);
+  return row(L"类", owner) + row(L"范围", PointText(box.minPoint()) + L" 到 " + PointText(box.maxPoint()));
 }
 
 CString valueText(const resbuf& item) {

@@ -59,8 +59,10 @@ int hexDigit(char c) {
   return -1;
 }
 
+constexpr std::size_t kMaxItem = 0x7FFF; // bytes
+
 ads_binary binaryFromHex(std::string_view hex) {
-  const std::size_t length = std::min<std::size_t>(hex.size() / 2, 0x7FFF);
+  const std::size_t length = std::min(hex.size() / 2, kMaxItem);
   ads_binary chunk{static_cast<short>(length), length ? new char[length] : nullptr};
   for (std::size_t i = 0; i < length; ++i)
     chunk.buf[i] =
@@ -181,9 +183,13 @@ ResbufPtr dxf::toResbuf(DxfTags tags) {
       builder.integer(tag.code, toInteger(tag.value).value_or(0));
       break;
     case Storage::binary: {
-      // Bytes in the chain are hexadecimal text in a file.
-      const ads_binary chunk = binaryFromHex(trimBlanks(tag.value));
-      builder.binary(tag.code, chunk);
+      // Bytes in the chain are hexadecimal text in a file. What is longer than an item can count goes on in
+      // the next one.
+      std::string_view hex = trimBlanks(tag.value);
+      do {
+        builder.binary(tag.code, binaryFromHex(hex));
+        hex.remove_prefix(std::min(hex.size(), 2 * kMaxItem));
+      } while (hex.size() > 1);
       break;
     }
     case Storage::text:

@@ -1,4 +1,5 @@
 // WB_BZFJ: places a room with its loads, and files the record that tells its temperature.
+#include "host/db/AcDbDatabase.h"
 #include "host/ed/EdPrompts.h"
 #include "host/ed/acutPrintf.h"
 #include "plugin/graph/DrawingSettings.h"
@@ -85,6 +86,9 @@ bool AskLoads(VkDbHvacSpace& room, CTQRoom& record) {
 } // namespace
 
 void PlaceRoom() {
+  if (const auto* drawing = acdbHostApplicationServices()->workingDatabase();
+      drawing && !drawing->form().subclassMarkers())
+    return Refuse(L"R12 格式的图形不能保存房间。", L"先用 SAVEAS 另存为较新的版本");
   if (!PrepareLayer(kLayer)) return;
   auto room = std::make_unique<VkDbHvacSpace>();
   CTQRoom record;

@@ -163,6 +163,26 @@ TEST_F(HvacSpaceFiling, DamagedGroupsAreLeftAtTheirDefaults) {
   }
 }
 
+TEST_F(HvacSpaceFiling, ARecordThatStandsInOneLongGroupIsReadToo) {
+  const auto id = AddRoom();
+  CTQRoom record = Record();
+  record.m_strName = CString(L'x', 100'000);
+  ASSERT_EQ(1, ZP::SetTQRoom(id, &record));
+  std::string saved = Plain(dxf::WriteDrawingBytes(database()));
+  // As another program may write it: all bytes behind one group code.
+  const std::size_t first = saved.find("\n310\n");
+  std::string joined;
+  std::size_t at = first;
+  for (; saved.compare(at, 5, "\n310\n") == 0; at = saved.find('\n', at + 5))
+    joined += saved.substr(at + 5, saved.find('\n', at + 5) - at - 5);
+  ASSERT_GT(joined.size(), 200'000u);
+  saved.replace(first, at - first, "\n310\n" + joined);
+  const auto again = Open(saved);
+  CTQRoom read;
+  ASSERT_EQ(1, ZP::GetTQRoom(SameIn(*again, id), &read));
+  EXPECT_EQ(read.m_strName, record.m_strName);
+}
+
 TEST_F(HvacSpaceFiling, ThePageOnTheFormTellsTheLoads) {
   std::ifstream file(std::filesystem::path(ZP_SOURCE_DIR) / "docs/formats/rooms.md", std::ios::binary);
   const std::string page{std::istreambuf_iterator<char>(file), {}};
