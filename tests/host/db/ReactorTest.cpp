@@ -69,6 +69,25 @@ TEST_F(Reactors, OfTheDrawingHearOfEveryObject) {
   EXPECT_EQ(std::count(listener.told.begin(), listener.told.end(), "appended"), 0);
 }
 
+TEST_F(Reactors, OfTheDrawingHearOfLayers) {
+  struct Layers : AcDbDatabaseReactor {
+    std::vector<CString> modified;
+    void objectModified(const AcDbDatabase*, const AcDbObject* object) override {
+      if (const auto* layer = AcDbLayerTableRecord::cast(object)) modified.push_back(layer->name());
+    }
+  } layers;
+  const auto id = addLayer(L"采暖");
+  db.addReactor(&layers);
+  {
+    AcDbObjectPointer<AcDbLayerTableRecord> open(id, AcDb::kForWrite);
+    open->setIsOff(true);
+    open->setIsLocked(true);
+  }
+  addLine();
+  EXPECT_EQ(layers.modified, std::vector<CString>{L"采暖"}) << "once for each opening, and of nothing else";
+  db.removeReactor(&layers);
+}
+
 TEST_F(Reactors, HearOfUndoAndRedo) {
   db.undo().beginCommand(L"LINE");
   addLine();
