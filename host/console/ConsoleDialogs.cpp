@@ -1,23 +1,9 @@
 #include "host/console/ConsoleDialogs.h"
 
-#include "host/console/DialogLine.h"
+#include "host/console/DialogInput.h"
 #include "host/console/DialogTargets.h"
-#include "host/ed/EdLineParser.h"
 #include "host/ed/EdSession.h"
 #include "host/ui/CDialog.h"
-
-namespace {
-// What an event asked for in the drawing is over: a pick given up there gives up the event and not the
-// command.
-constexpr bool kGoesOn = false;
-} // namespace
-
-void ConsoleDialogs::Obey(CFormWnd& form, const CString& line) {
-  const auto outcome =
-      console::ObeyDialogLine(form, line, [&](const CString& text) { m_frontEnd.print(L"\n" + text); });
-  auto& session = EdSession::instance();
-  if (!outcome) session.refuse(outcome.reason, outcome.expected);
-}
 
 void ConsoleDialogs::RunModal(CDialog& dialog) {
   auto& session = EdSession::instance();
@@ -27,18 +13,13 @@ void ConsoleDialogs::RunModal(CDialog& dialog) {
   while (!dialog.HasEnded()) {
     const auto line = session.input().read(console::PlainName(dialog.GetCaption()) + L":");
     if (!line) break;
-    if (CString(line->text).Trim().IsEmpty()) continue;
-    if (ed::IsCancelLine(line->text)) {
-      dialog.UserEscape();
-    } else {
-      Obey(dialog, line->text);
-    }
-    session.noteInput(kGoesOn);
+    console::ObeyModalLine(dialog, line->text);
   }
   if (dialog.HasEnded()) return;
   m_frontEnd.print(L"\n（输入结束，关闭“" + title + L"”）\n");
   dialog.UserClose();
-  session.noteInput(kGoesOn);
+  constexpr bool cancelled = false; // a pick that an event gave up gives up no more than the event
+  session.noteInput(cancelled);
 }
 
 void ConsoleDialogs::ShowModeless(CFormWnd& window) {
@@ -58,7 +39,7 @@ bool ConsoleDialogs::ObeyBarLine(const CString& line) {
   std::erase_if(m_modeless, [](const CFormWnd* window) { return window->HasEnded(); });
   for (auto window = m_modeless.rbegin(); window != m_modeless.rend(); ++window) {
     if (!(*window)->IsWindowVisible()) continue;
-    Obey(**window, CString(line).TrimLeft().Mid(first.GetLength()));
+    console::ObeyFormLine(**window, CString(line).TrimLeft().Mid(first.GetLength()));
     return true;
   }
   EdSession::instance().refuse(L"没有打开的面板。", L"先执行打开面板的命令");

@@ -24,8 +24,6 @@ class ConsoleDialogs : public UiFrontEnd {
   bool ObeyBarLine(const CString& line);
 
  private:
-  void Obey(CFormWnd& form, const CString& line);
-
   EdFrontEnd& m_frontEnd;
   std::vector<CFormWnd*> m_modeless;
 };

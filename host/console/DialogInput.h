@@ -1,0 +1,17 @@
+// Lines that a user or a script gives to an open dialog or bar. One that can't be obeyed is refused, as at
+// any prompt.
+#pragma once
+
+#include "host/afx/CString.h"
+
+class CDialog;
+class CFormWnd;
+
+namespace console {
+
+void ObeyFormLine(CFormWnd& form, const CString& line);
+// For a dialog that waits for nothing but such lines: an empty one is passed over, and Escape gives up an
+// edit or the dialog.
+void ObeyModalLine(CDialog& dialog, const CString& line);
+
+} // namespace console
