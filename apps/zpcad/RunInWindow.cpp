@@ -2,6 +2,7 @@
 
 #include "apps/zpcad/LibraryFolders.h"
 #include "host/commands/HostCommands.h"
+#include "host/console/DialogInput.h"
 #include "host/qt/DesktopProgram.h"
 
 #include <dlfcn.h>
@@ -30,6 +31,7 @@ int RunInWindow(const Options& options, const fs::path& programFolder, int argc,
   job.script = options.job.script;
   job.drawing = options.job.drawing;
   job.commandTitle = commands::Title;
+  job.obeyDialogLine = console::ObeyModalLine;
   if (options.screenshot) job.screenshot = CString::FromUtf8(*options.screenshot);
   return run(&job, argc, argv);
 }

@@ -51,7 +51,7 @@ EdInput::Fetched EdInput::cancelAll() {
   return {{L"*cancel*", CString(), 0, true}, true, false};
 }
 
-std::optional<EdInput::Fetched> EdInput::fetch(const CString& prompt) {
+std::optional<EdInput::Fetched> EdInput::fetch(const CString& prompt, From from) {
   if (m_frontEnd && m_frontEnd->takeInterrupt()) return cancelAll();
   for (std::size_t at = m_sources.size(); at-- > 0;) {
     auto& source = m_sources[at];
@@ -67,6 +67,7 @@ std::optional<EdInput::Fetched> EdInput::fetch(const CString& prompt) {
     if (!source.lines->fallsThrough()) return std::nullopt;
     if (at + 1 == m_sources.size()) m_sources.pop_back();
   }
+  if (from == From::scripts) return std::nullopt;
   if (m_typedUnread) return std::exchange(m_typedUnread, std::nullopt);
   if (!m_frontEnd) return std::nullopt;
   auto text = m_frontEnd->readLine(prompt);
@@ -76,8 +77,8 @@ std::optional<EdInput::Fetched> EdInput::fetch(const CString& prompt) {
   return Fetched{{std::move(*text), CString(), ++m_typedLines, true}, true, tooLong};
 }
 
-std::optional<EdInput::Fetched> EdInput::fetchNoComment(const CString& prompt, bool freeText) {
-  while (auto fetched = fetch(prompt)) {
+std::optional<EdInput::Fetched> EdInput::fetchNoComment(const CString& prompt, bool freeText, From from) {
+  while (auto fetched = fetch(prompt, from)) {
     if (fetched->tooLong) {
       m_last = fetched->line;
       CString reason;
@@ -103,9 +104,9 @@ std::optional<EdLine> EdInput::read(const CString& prompt, bool freeText) {
   return take(prompt, *fetched);
 }
 
-std::optional<EdLine> EdInput::readIf(const CString& prompt,
-                                      const std::function<bool(const CString&)>& fits) {
-  auto fetched = fetchNoComment(prompt, false);
+std::optional<EdLine> EdInput::readIf(const CString& prompt, const std::function<bool(const CString&)>& fits,
+                                      From from) {
+  auto fetched = fetchNoComment(prompt, false, from);
   if (!fetched) return std::nullopt;
   if (fits(fetched->line.text)) return take(prompt, *fetched);
   auto& unread = fetched->line.typed ? m_typedUnread : m_sources[m_fetchedFrom].unread;

@@ -43,8 +43,11 @@ class EdInput {
   // with
   // ";" is told to the user and passed over, except for free text.
   std::optional<EdLine> read(const CString& prompt, bool freeText = false);
-  // The next line if it fits, and is left for the next reader otherwise.
-  std::optional<EdLine> readIf(const CString& prompt, const std::function<bool(const CString&)>& fits);
+  // The next line if it fits, and is left for the next reader otherwise. From scripts alone there is nothing
+  // where the user would have to type.
+  enum class From { anybody, scripts };
+  std::optional<EdLine> readIf(const CString& prompt, const std::function<bool(const CString&)>& fits,
+                               From from = From::anybody);
 
   const EdLine& last() const { return m_last; }
 
@@ -75,8 +78,8 @@ class EdInput {
     int passedOver = 0; // by how many UserOnly
   };
   Fetched cancelAll();
-  std::optional<Fetched> fetch(const CString& prompt);
-  std::optional<Fetched> fetchNoComment(const CString& prompt, bool freeText);
+  std::optional<Fetched> fetch(const CString& prompt, From from);
+  std::optional<Fetched> fetchNoComment(const CString& prompt, bool freeText, From from = From::anybody);
   EdLine take(const CString& prompt, const Fetched& fetched);
 
   Refuser m_refuse;

@@ -9,6 +9,7 @@
 #include "host/qt/DesktopFrontEnd.h"
 #include "host/qt/DisplayProbe.h"
 #include "host/qt/QtText.h"
+#include "host/qt/Screenshot.h"
 #include "host/qt/Theme.h"
 #include "host/qt/dialogs/DesktopDialogs.h"
 #include "host/qt/window/Autosave.h"
@@ -80,13 +81,6 @@ void OfferLeft(Autosave& autosave, MainWindow& window) {
   if (opened && autosave.save()) autosave.discard(left);
 }
 
-bool SavePicture(QWidget& widget, const CString& file) {
-  if (widget.grab().save(QString::fromStdString(afx::NativePath(file)), "PNG")) return true;
-  std::cout << "不能写图片文件“" << file.ToUtf8() << "”。\n";
-  return false;
-}
-
-constexpr int kPictureAfter = 300;            // milliseconds
 constexpr int kAutosaveEvery = 3 * 60 * 1000; // milliseconds
 constexpr int kAutosaveAgain = 10 * 1000;     // while a command runs
 
@@ -96,6 +90,7 @@ int Run(const DesktopJob& job, QSettings& settings, const QString& folder) {
   MainWindow window(feed, titles, settings);
   DesktopFrontEnd frontEnd(feed, window);
   DesktopDialogs dialogs(window, [&feed] { feed.wake(); });
+  dialogs.scriptLine = job.obeyDialogLine;
   const SessionScope scope(frontEnd, dialogs);
   auto& session = EdSession::instance();
   window.show();
@@ -112,31 +107,13 @@ int Run(const DesktopJob& job, QSettings& settings, const QString& folder) {
                    [&] { autosaveTimer.start(autosave.save() ? kAutosaveEvery : kAutosaveAgain); });
   autosaveTimer.start(kAutosaveEvery);
   if (!job.screenshot && !job.script) feed.whenIdle([&] { OfferLeft(autosave, window); });
-  QTimer dialogTimer;
-  if (job.screenshot) {
-    const auto shoot = [&](QWidget& widget) {
-      if (!SavePicture(widget, *job.screenshot)) status = kUnusable;
-      dialogTimer.stop();
-      feed.whenIdle([&session] { session.requestQuit(); });
-    };
-    // The script may have ended in the middle of a command, to show what is dragged.
-    feed.whenWaiting([&, shoot] {
-      if (!dialogTimer.isActive() || QApplication::activeModalWidget()) return;
-      QApplication::processEvents();
-      shoot(window);
-    });
-    // A dialog that the script opens is what the picture is wanted of.
-    QObject::connect(&dialogTimer, &QTimer::timeout, [&, shoot] {
-      QWidget* dialog = QApplication::activeModalWidget();
-      if (!dialog) return;
-      shoot(*dialog);
-      dialog->close();
-    });
-    dialogTimer.start(kPictureAfter);
-  }
+  std::optional<Screenshot> screenshot;
+  if (job.screenshot) screenshot.emplace(*job.screenshot, window, feed);
   session.run();
   window.saveState();
-  return job.screenshot ? status : kDone;
+  if (!screenshot) return kDone;
+  if (!screenshot->isSaved()) return kUnusable;
+  return status == kDone && session.refusedLines() > 0 ? kRefused : status;
 }
 
 } // namespace

@@ -8,12 +8,16 @@
 #include <optional>
 #include <vector>
 
+class CDialog;
+
 struct DesktopJob {
   std::vector<CString> plugIns;
   std::optional<CString> script;
   std::optional<CString> drawing;
   // What a command of the host does, in a few words; empty for an unknown one.
   std::function<CString(const CString&)> commandTitle;
+  // Obeys a line of a script in the dialog that stands open.
+  std::function<void(CDialog&, const CString&)> obeyDialogLine;
   // Where settings and drawings saved for the case of a crash are kept; the user's own place without it.
   std::optional<CString> stateFolder;
   // Ends after the script, with a picture of the window in this file (PNG).
@@ -23,6 +27,7 @@ struct DesktopJob {
 namespace desktop {
 
 inline constexpr int kDone = 0;
+inline constexpr int kRefused = 1;   // a line of the script, when a picture was wanted
 inline constexpr int kUnusable = 2;  // a file that can't be read
 inline constexpr int kNoDisplay = 3; // there is no screen to show a window on
 

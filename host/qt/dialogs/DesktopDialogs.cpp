@@ -3,6 +3,7 @@
 #include "host/ed/EdSession.h"
 #include "host/qt/dialogs/FormWindow.h"
 #include "host/qt/dialogs/MessageBoxes.h"
+#include "host/qt/dialogs/ScriptedAnswer.h"
 #include "host/ui/CAcUiDockControlBar.h"
 #include "host/ui/CDialog.h"
 
@@ -60,9 +61,24 @@ void DesktopDialogs::RunModal(CDialog& dialog) {
   window.ended = [&loop] { loop.quit(); };
   window.follow();
   window.show();
+  obeyScript(dialog);
   while (!dialog.HasEnded() && m_dialogs.contains(&dialog)) loop.exec();
   m_dialogs.erase(&dialog);
   window.detach();
+}
+
+// A running script goes on in the dialog that it has opened. Where it ends, or can't go on, the user does.
+void DesktopDialogs::obeyScript(CDialog& dialog) {
+  if (!scriptLine) return;
+  auto& input = EdSession::instance().input();
+  const EdInput::UserOnly userOnly(input);
+  const auto any = [](const CString&) { return true; };
+  while (!dialog.HasEnded() && m_dialogs.contains(&dialog)) {
+    const auto line = input.readIf(dialog.GetCaption() + L":", any, EdInput::From::scripts);
+    if (!line) return;
+    scriptLine(dialog, line->text);
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  }
 }
 
 void DesktopDialogs::ShowModeless(CFormWnd& form) {
@@ -98,6 +114,9 @@ void DesktopDialogs::WindowGone(CFormWnd& form) {
 }
 
 int DesktopDialogs::ShowMessageBox(const UiMessageBox& box) {
+  EdMessageBox asked{box.caption, box.text, {}, box.defaultButton};
+  for (const auto& button : box.buttons) asked.buttons.push_back(button.caption);
+  if (const auto button = ScriptedAnswer(asked)) return box.buttons[*button].id;
   return ShowDialogBox(parent(), box);
 }
 

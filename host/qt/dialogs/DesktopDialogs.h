@@ -21,6 +21,9 @@ class DesktopDialogs : public UiFrontEnd {
       : m_window(window), m_afterEvent(std::move(afterEvent)) {}
   ~DesktopDialogs() override;
 
+  // Obeys a script's line in the dialog that stands open. Without it scripts wait for the user there.
+  std::function<void(CDialog&, const CString&)> scriptLine;
+
   void RunModal(CDialog& dialog) override;
   void ShowModeless(CFormWnd& window) override;
   void WindowGone(CFormWnd& window) override;
@@ -32,6 +35,7 @@ class DesktopDialogs : public UiFrontEnd {
 
  private:
   QWidget* parent() const;
+  void obeyScript(CDialog& dialog);
 
   QMainWindow& m_window;
   std::function<void()> m_afterEvent;

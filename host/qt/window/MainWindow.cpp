@@ -6,6 +6,7 @@
 #include "host/qt/QtText.h"
 #include "host/qt/canvas/Canvas.h"
 #include "host/qt/dialogs/MessageBoxes.h"
+#include "host/qt/dialogs/ScriptedAnswer.h"
 #include "host/qt/window/CommandEdit.h"
 #include "host/qt/window/CommandPanel.h"
 #include "host/qt/window/RecentFiles.h"
@@ -133,6 +134,7 @@ void MainWindow::promptOpened(const CString& prompt) {
 }
 
 EdBoxResult MainWindow::ask(const EdMessageBox& box) {
+  if (const auto button = ScriptedAnswer(box)) return {*button, true};
   return ShowEditorBox(this, box);
 }
 

@@ -57,6 +57,19 @@ TEST_F(Input, CommentsAreToldAndPassedOver) {
   EXPECT_EQ(L"; free", input.read(L"?", true)->text) << "free text may begin with a semicolon";
 }
 
+TEST_F(Input, ScriptsCanBeReadWithoutTheUser) {
+  auto& input = session().input();
+  const auto any = [](const CString&) { return true; };
+  frontEnd.type({L"typed"});
+  input.push(script("first\nsecond\n; said"));
+  EXPECT_EQ(L"first", input.readIf(L"?", any, EdInput::From::scripts)->text);
+  EXPECT_FALSE(input.readIf(
+      L"?", [](const CString&) { return false; }, EdInput::From::scripts));
+  EXPECT_EQ(L"second", input.readIf(L"?", any, EdInput::From::scripts)->text) << "it was left";
+  EXPECT_FALSE(input.readIf(L"?", any, EdInput::From::scripts));
+  EXPECT_EQ(L"typed", next(input)) << "nobody was asked for it before";
+}
+
 TEST_F(Input, ALineThatDoesNotFitStaysForTheNextReader) {
   auto& input = session().input();
   frontEnd.type({L"typed"});

@@ -1,0 +1,47 @@
+#include "host/qt/Screenshot.h"
+
+#include "host/afx/Paths.h"
+#include "host/ed/EdSession.h"
+
+#include <QApplication>
+#include <QPixmap>
+#include <QWidget>
+
+#include <iostream>
+
+namespace desktop {
+namespace {
+
+constexpr int kSettled = 300; // milliseconds after which a window stands as it will be
+
+} // namespace
+
+Screenshot::Screenshot(CString file, QWidget& window, CommandFeed& feed)
+    : m_file(std::move(file)), m_feed(feed) {
+  // The script may have ended in the middle of a command, to show what is dragged.
+  feed.whenWaiting([this, &window] {
+    if (m_taken || QApplication::activeModalWidget()) return;
+    QApplication::processEvents();
+    take(window);
+  });
+  QObject::connect(&m_timer, &QTimer::timeout, [this] { look(); });
+  m_timer.start(kSettled);
+}
+
+void Screenshot::take(QWidget& widget) {
+  m_taken = true;
+  m_saved = widget.grab().save(QString::fromStdString(afx::NativePath(m_file)), "PNG");
+  if (!m_saved) std::cout << "不能写图片文件“" << m_file.ToUtf8() << "”。\n";
+  m_feed.whenIdle([] { EdSession::instance().requestQuit(); });
+}
+
+void Screenshot::look() {
+  QWidget* open = QApplication::activeModalWidget();
+  auto& input = EdSession::instance().input();
+  input.dropFinished();
+  if (!open || input.scriptDepth() > 0) return;
+  if (!m_taken) take(*open);
+  open->close();
+}
+
+} // namespace desktop
