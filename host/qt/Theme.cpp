@@ -1,5 +1,7 @@
 #include "host/qt/Theme.h"
 
+#include "host/qt/dialogs/TableColours.h"
+
 #include <QApplication>
 #include <QFontDatabase>
 #include <QPalette>
@@ -43,6 +45,10 @@ void ApplyTheme(QApplication& application) {
   palette.setColor(QPalette::Highlight, QColor(42, 110, 190));
   palette.setColor(QPalette::HighlightedText, Qt::white);
   QApplication::setPalette(palette);
+  // Lists and trees show what is selected as tables do.
+  palette.setColor(QPalette::Highlight, kFocusColour);
+  palette.setColor(QPalette::HighlightedText, Qt::black);
+  QApplication::setPalette(palette, "QAbstractItemView");
   application.setApplicationDisplayName(QString());
 }
 

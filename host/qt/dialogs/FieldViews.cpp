@@ -12,10 +12,13 @@
 #include <QListWidget>
 #include <QPlainTextEdit>
 
+#include <algorithm>
+
 namespace desktop {
 namespace {
 
 constexpr int kFieldWidth = 120;
+constexpr int kListWidth = 200;
 constexpr int kLines = 4; // of a field with several
 
 // Keeps the place of the cursor: setText would move it to the end.
@@ -159,10 +162,21 @@ class ComboView : public ControlView {
   QComboBox* m_shown;
 };
 
+// As high as its entries ask for, within reason.
+class ListOfEntries : public QListWidget {
+ public:
+  QSize sizeHint() const override {
+    constexpr int fewest = 3, most = 10; // entries
+    const int entry = count() > 0 ? sizeHintForRow(0) : fontMetrics().height() + 2;
+    return {kListWidth, std::clamp(count(), fewest, most) * entry + 2 * frameWidth() + 2};
+  }
+  QSize minimumSizeHint() const override { return {kFieldWidth, sizeHint().height()}; }
+};
+
 class ListView : public ControlView {
  public:
   ListView(CListBox& control, FormContext& context)
-      : ControlView(control, context), m_list(control), m_shown(new QListWidget) {
+      : ControlView(control, context), m_list(control), m_shown(new ListOfEntries) {
     setWidget(m_shown);
     QObject::connect(m_shown, &QListWidget::currentRowChanged, [this](int row) {
       if (row >= 0) obey([this, row] { return m_list.UserSelect(row); });
@@ -177,11 +191,12 @@ class ListView : public ControlView {
     if (change.kind == UiChange::Kind::content) {
       m_shown->clear();
       for (int i = 0; i < m_list.GetCount(); ++i) m_shown->addItem(Shown(m_list.GetText(i)));
+      m_shown->updateGeometry();
     }
     m_shown->setCurrentRow(m_list.GetCurSel());
   }
   CListBox& m_list;
-  QListWidget* m_shown;
+  ListOfEntries* m_shown;
 };
 
 } // namespace

@@ -62,8 +62,11 @@ void FormView::fillColumn(QGridLayout& grid, const UiLayout& layout) {
   grid.setColumnStretch(1, 1);
   int row = 0;
   bool grows = false;
+  // Where one is told to take what is left over, the others do not.
+  const bool told = std::any_of(layout.children.begin(), layout.children.end(),
+                                [](const UiLayout& child) { return child.stretch > 0; });
   for (const UiLayout& child : layout.children) {
-    const bool down = child.stretch > 0 || GrowsDown(child);
+    const bool down = child.stretch > 0 || (!told && GrowsDown(child));
     grows = grows || down || child.kind == UiLayout::Kind::space;
     if (child.kind == UiLayout::Kind::space) {
       grid.setRowStretch(row++, std::max(child.stretch, 1));

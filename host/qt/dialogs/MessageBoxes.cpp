@@ -1,6 +1,7 @@
 #include "host/qt/dialogs/MessageBoxes.h"
 
 #include "host/qt/QtText.h"
+#include "host/qt/dialogs/MessageIcons.h"
 
 #include <QMessageBox>
 #include <QPushButton>
@@ -25,6 +26,7 @@ int Show(QWidget* parent, const CString& caption, const CString& text, QMessageB
   QMessageBox box(icon, Shown(caption), QString(), QMessageBox::NoButton, parent);
   box.setTextFormat(Qt::PlainText);
   box.setText(Shown(text));
+  if (icon != QMessageBox::NoIcon) box.setIconPixmap(MessageIcon(icon, box.devicePixelRatioF()));
   std::vector<QAbstractButton*> buttons;
   for (const CString& button : captions) {
     auto* made = new QPushButton(WithKey(button), &box);

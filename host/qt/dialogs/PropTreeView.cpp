@@ -18,6 +18,7 @@ namespace desktop {
 namespace {
 
 using Kind = CPropTreeItem::Kind;
+constexpr int kRowHeight = 26;
 
 class PropTreeView : public ControlView {
  public:
@@ -102,7 +103,6 @@ class PropTreeView : public ControlView {
       return both;
     }
     auto* line = new QLineEdit;
-    line->setFrame(false);
     line->setObjectName(name);
     finishLine(*line, number);
     return line;
@@ -135,12 +135,14 @@ class PropTreeView : public ControlView {
       bold.setBold(true);
       top->setFont(0, bold);
       top->setFlags(Qt::ItemIsEnabled);
+      top->setSizeHint(0, {0, kRowHeight});
       top->setBackground(0, QColor(233, 236, 240));
       top->setBackground(1, QColor(233, 236, 240));
       for (const CPropTreeItem& item : group.items) {
         auto* shown = new QTreeWidgetItem(top);
         shown->setData(0, Qt::UserRole, number);
         QWidget* field = makeField(number);
+        field->setMinimumHeight(kRowHeight);
         m_list->setItemWidget(shown, 1, field);
         m_forms.push_back(FormOf(item));
         m_fields.push_back({shown, field});
@@ -194,6 +196,12 @@ class PropTreeView : public ControlView {
       if (change.kind != UiChange::Kind::row || change.row == i) fill(i);
     const int selected = m_tree.GetCurSel();
     m_list->setCurrentItem(selected < 0 ? nullptr : m_fields[static_cast<std::size_t>(selected)].shown);
+    const auto told = [this] {
+      for (int i = 0; i < m_tree.GetItemCount(); ++i)
+        if (!m_tree.Item(i).info.IsEmpty()) return true;
+      return false;
+    };
+    m_info->setVisible(told());
     m_info->setText(selected < 0 ? QString() : Shown(m_tree.Item(selected).info));
   }
 

@@ -2,18 +2,13 @@
 
 #include "host/qt/QtText.h"
 #include "host/qt/dialogs/PictureFile.h"
+#include "host/qt/dialogs/TableColours.h"
 
 #include <QBrush>
-#include <QColor>
 #include <QFont>
 
 namespace desktop {
 namespace {
-
-const QColor kHeading(233, 236, 240);
-const QColor kReadOnly(246, 247, 249);
-const QColor kSelected(214, 230, 248);
-const QColor kFocus(176, 208, 242);
 
 QColor ColorOf(COLORREF color) {
   return {static_cast<int>(GetRValue(color)), static_cast<int>(GetGValue(color)),
@@ -66,15 +61,15 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
     if (cell.foreground) return QBrush(ColorOf(*cell.foreground));
     return QBrush(Qt::black);
   case Qt::BackgroundRole: {
-    if (whole.fixed) return QBrush(kHeading);
+    if (whole.fixed) return QBrush(kHeadingColour);
     const bool focus = row == m_table.GetFocusRow() && column == m_table.GetFocusColumn();
-    if (focus && !m_table.SelectsRows()) return QBrush(kFocus);
+    if (focus && !m_table.SelectsRows()) return QBrush(kFocusColour);
     if (m_table.IsRowSelected(row)) {
-      if (m_table.SelectsRows()) return QBrush(kFocus);
-      if (!cell.background) return QBrush(kSelected);
+      if (m_table.SelectsRows()) return QBrush(kFocusColour);
+      if (!cell.background) return QBrush(kSelectedColour);
     }
     if (cell.background) return QBrush(ColorOf(*cell.background));
-    if (m_table.IsEditable() && !m_table.CanEdit(row, column)) return QBrush(kReadOnly);
+    if (m_table.IsEditable() && !m_table.CanEdit(row, column)) return QBrush(kReadOnlyColour);
     return {};
   }
   case Qt::ToolTipRole:

@@ -1,13 +1,15 @@
 #include "host/qt/dialogs/TableWidget.h"
 
 #include "host/qt/dialogs/ContextMenu.h"
+#include "host/qt/dialogs/TableHeading.h"
 #include "host/qt/dialogs/TableModel.h"
 
 #include <QContextMenuEvent>
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QResizeEvent>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
 
 #include <algorithm>
 
@@ -17,10 +19,25 @@ namespace {
 constexpr int kRowPadding = 10;
 constexpr int kMostHint = 420; // pixels of height that a table asks for
 
+// Which cell is in focus or selected the table knows; what Qt thinks of it would only mislead.
+class CellDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    option->state &= ~(QStyle::State_HasFocus | QStyle::State_Selected | QStyle::State_MouseOver);
+  }
+};
+
 } // namespace
 
-TableWidget::TableWidget(CTableWnd& table) : m_table(table), m_model(new TableModel(table, this)) {
+TableWidget::TableWidget(CTableWnd& table)
+    : m_table(table), m_model(new TableModel(table, this)), m_heading(new TableHeading(table, this)) {
+  setHorizontalHeader(m_heading);
   setModel(m_model);
+  setItemDelegate(new CellDelegate(this));
   setEditTriggers(NoEditTriggers);
   setSelectionMode(NoSelection);
   setTabKeyNavigation(false);
@@ -28,34 +45,65 @@ TableWidget::TableWidget(CTableWnd& table) : m_table(table), m_model(new TableMo
   setCornerButtonEnabled(false);
   verticalHeader()->hide();
   verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kRowPadding);
-  horizontalHeader()->setHighlightSections(false);
   setHorizontalScrollMode(ScrollPerPixel);
+}
+
+int TableWidget::widthOf(int column) const {
+  const int width = m_table.Column(column).width;
+  return width <= 0 ? 0 : std::max(width, m_heading->widthFor(column));
+}
+
+void TableWidget::layOutRow(int row) {
+  const bool inHeading = row < m_heading->rows();
+  setRowHidden(row, inHeading);
+  if (inHeading) return;
+  const int height = m_table.Row(row).height;
+  setRowHeight(row, height > 0 ? height : verticalHeader()->defaultSectionSize());
+  for (int column = 0; column < m_table.GetColumnCount(); ++column) {
+    const UiCell& cell = m_table.Cell(row, column);
+    if (cell.spanRows > 1 || cell.spanColumns > 1) setSpan(row, column, cell.spanRows, cell.spanColumns);
+  }
 }
 
 void TableWidget::layOut() {
   clearSpans();
-  horizontalHeader()->setVisible(m_table.HasColumnTitles());
-  for (int column = 0; column < m_table.GetColumnCount(); ++column) {
-    const int width = m_table.Column(column).width;
-    setColumnHidden(column, width <= 0);
-    if (width > 0) setColumnWidth(column, width);
+  m_heading->follow();
+  for (int column = 0; column < m_table.GetColumnCount(); ++column)
+    setColumnHidden(column, widthOf(column) == 0);
+  widenColumns();
+  for (int row = 0; row < m_table.GetRowCount(); ++row) layOutRow(row);
+}
+
+void TableWidget::widenColumns() {
+  const int columns = m_model->columnCount();
+  int wanted = 0;
+  int last = -1;
+  for (int column = 0; column < columns; ++column) {
+    wanted += widthOf(column);
+    if (widthOf(column) > 0) last = column;
   }
-  for (int row = 0; row < m_table.GetRowCount(); ++row) {
-    const int height = m_table.Row(row).height;
-    setRowHeight(row, height > 0 ? height : verticalHeader()->defaultSectionSize());
-    for (int column = 0; column < m_table.GetColumnCount(); ++column) {
-      const UiCell& cell = m_table.Cell(row, column);
-      if (cell.spanRows > 1 || cell.spanColumns > 1) setSpan(row, column, cell.spanRows, cell.spanColumns);
-    }
+  int left = std::max(viewport()->width() - wanted, 0);
+  const int spare = left;
+  for (int column = 0; column <= last; ++column) {
+    const int width = widthOf(column);
+    if (width == 0) continue;
+    const int more = column == last ? left : static_cast<int>(static_cast<long>(spare) * width / wanted);
+    setColumnWidth(column, width + more);
+    left -= more;
   }
+}
+
+void TableWidget::resizeEvent(QResizeEvent* event) {
+  QTableView::resizeEvent(event);
+  if (event->size().width() != event->oldSize().width()) widenColumns();
 }
 
 QSize TableWidget::sizeHint() const {
   int width = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
-  for (int column = 0; column < m_table.GetColumnCount(); ++column) width += m_table.Column(column).width;
-  int height =
-      2 * frameWidth() + 4 + (m_table.HasColumnTitles() ? horizontalHeader()->sizeHint().height() : 0);
-  for (int row = 0; row < m_table.GetRowCount() && height < kMostHint; ++row) height += rowHeight(row);
+  for (int column = 0; column < m_table.GetColumnCount(); ++column) width += widthOf(column);
+  int height = 2 * frameWidth() + 4 + m_heading->sizeHint().height();
+  for (int row = m_heading->rows(); row < m_table.GetRowCount() && height < kMostHint; ++row)
+    height += rowHeight(row);
   return {std::clamp(width, 160, 900), std::clamp(height, 120, kMostHint)};
 }
 
@@ -76,6 +124,7 @@ void TableWidget::follow(const UiChange& change) {
     break;
   }
   case UiChange::Kind::row:
+    if (change.row <= m_heading->rows()) layOut(); // of the heading, or just behind it
     m_model->rowChanged(change.row);
     break;
   case UiChange::Kind::selection:

@@ -12,6 +12,7 @@ class QLineEdit;
 
 namespace desktop {
 
+class TableHeading;
 class TableModel;
 
 class TableWidget : public QTableView {
@@ -34,10 +35,15 @@ class TableWidget : public QTableView {
   void keyPressEvent(QKeyEvent* event) override;
   bool eventFilter(QObject* object, QEvent* event) override;
   void updateGeometries() override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   QPoint cellAt(const QPoint& at) const; // x the column, y the row; -1 for none
   void layOut();
+  void layOutRow(int row);
+  // Columns share width that is left over.
+  void widenColumns();
+  int widthOf(int column) const;
   void followEdit();
   void openEditor();
   void placeEditor();
@@ -48,6 +54,7 @@ class TableWidget : public QTableView {
 
   CTableWnd& m_table;
   TableModel* m_model;
+  TableHeading* m_heading;
   QWidget* m_editor = nullptr;
   QLineEdit* m_line = nullptr; // of the editor; null for a list without free text
   QComboBox* m_combo = nullptr;

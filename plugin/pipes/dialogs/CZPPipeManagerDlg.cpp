@@ -48,7 +48,7 @@ UiLayout CZPPipeManagerDlg::Layout() {
                   ui::Item(m_properties).Size(260, 300),
               })
           .Stretch(1),
-      ui::Row({ui::Item(m_sample), ui::Space(), ui::Item(m_ok), ui::Item(m_exit)}),
+      ui::Row({ui::Item(m_sample).Size(240, 0), ui::Space(), ui::Item(m_ok), ui::Item(m_exit)}),
   });
 }
 

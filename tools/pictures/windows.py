@@ -1,0 +1,87 @@
+#!/usr/bin/python3
+"""Takes the pictures of the main window and of each dialog that the user's guide shows:
+
+    tools/pictures/windows.py build/release/bin/zpcad docs/pictures [--scale 2] [NAME...]
+
+The program takes them itself, on a screen that nobody sees. Each begins with a copy of the shipped data. With
+--scale 2 they are as on a screen of double density, and "@2x" stands behind their names. Needs the Debian package
+python3-pil, which makes the files small.
+"""
+
+import argparse
+import json
+import os
+import shutil
+import subprocess
+import sys
+import tempfile
+from pathlib import Path
+
+from PIL import Image
+
+SOURCE = Path(__file__).resolve().parents[2]
+PLAN = SOURCE / "examples/sample-plan.dxf"
+SCREEN = {"name": "screen", "x": 0, "y": 0, "width": 1600, "height": 1000, "logicalDpi": 96, "logicalBaseDpi": 96}
+COLORS = 256  # of the palette of a committed picture
+SECONDS = 60
+
+# Name: what is typed, and the drawing that the program is started with. A picture shows what stands open at the end.
+WINDOWS = {
+    "main-window": (["ZOOM", "E"], PLAN),
+    "system-settings": (["KOR_XTSZ"], None),
+    "text-styles": (["DDSTYLE", "set 新样式名 = 仿宋", "click 新建"], None),
+    "pipe-manager": (["KOR_GJGLQ", "select 管材管径 镀锌钢管(普通)", "select 管径 25"], None),
+    "delete-question": (["KOR_GJGLQ", "select 管材管径 无缝钢管", "click 管材管径/删除"], None),
+    "duct-manager": (["KOR_FGGJGLQ"], None),
+    "duct-manager-round": (["KOR_FGGJGLQ", "select 截面形状 圆形"], None),
+    "velocity-limits": (["KOR_LSGLQ", "select 流速 32"], None),
+}
+
+
+def take(program, name, scale, folder):
+    """The picture as the program saves it."""
+    lines, drawing = WINDOWS[name]
+    data = folder / "data"
+    shutil.rmtree(data, ignore_errors=True)
+    shutil.copytree(SOURCE / "data", data)
+    script = folder / "script.scr"
+    script.write_text("\n".join(lines) + "\n", encoding="utf-8")
+    screen = folder / "screen.json"
+    screen.write_text(json.dumps({"screens": [SCREEN | {"dpr": scale}]}))
+    picture = folder / "picture.png"
+    picture.unlink(missing_ok=True)
+    environment = os.environ | {
+        "QT_QPA_PLATFORM": f"offscreen:configfile={screen}",
+        "XDG_CONFIG_HOME": str(folder / "config"),
+        "XDG_RUNTIME_DIR": str(folder / "runtime"),
+    }
+    (folder / "runtime").mkdir(mode=0o700, exist_ok=True)
+    shutil.rmtree(folder / "config", ignore_errors=True)
+    command = [program, "--data", data, "--script", script, "--screenshot", picture]
+    # From the repository: what the window says of a file must not tell where this one stands.
+    command += [drawing.relative_to(SOURCE)] if drawing else []
+    run = subprocess.run(command, env=environment, cwd=SOURCE, capture_output=True, text=True, timeout=SECONDS)
+    if run.returncode != 0 or not picture.exists():
+        sys.exit(f"{name}: status {run.returncode}\n{run.stdout}{run.stderr}")
+    return Image.open(picture).convert("RGB")
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    parser.add_argument("program", type=Path)
+    parser.add_argument("target", type=Path)
+    parser.add_argument("names", nargs="*", metavar="NAME")
+    parser.add_argument("--scale", type=int, default=1)
+    options = parser.parse_intermixed_args()
+    suffix = f"@{options.scale}x" if options.scale != 1 else ""
+    options.target.mkdir(parents=True, exist_ok=True)
+    with tempfile.TemporaryDirectory() as folder:
+        for name in options.names or WINDOWS:
+            picture = take(options.program.resolve(), name, options.scale, Path(folder))
+            file = options.target / f"{name}{suffix}.png"
+            picture.quantize(COLORS, Image.Quantize.MAXCOVERAGE, dither=Image.Dither.NONE).save(file, optimize=True)
+            print(f"{file}: {picture.width} x {picture.height}, {file.stat().st_size} bytes")
+
+
+if __name__ == "__main__":
+    main()
