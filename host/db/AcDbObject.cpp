@@ -8,6 +8,7 @@
 #include "host/db/DxfDecodeContext.h"
 #include "host/db/DxfRecordEditor.h"
 #include "host/db/DxfText.h"
+#include "host/db/SameName.h"
 #include "host/db/resbuf.h"
 
 #include <utility>
@@ -207,11 +208,11 @@ Acad::ErrorStatus AcDbObject::releaseExtensionDictionary() {
 
 resbuf* AcDbObject::xData(const wchar_t* application) const {
   std::vector<DxfTag> wanted;
+  const std::string name = application ? dxf::encodeText(application) : std::string();
   bool take = false;
   for (const DxfTag& tag : record().tags()) {
     if (tag.code < 1000) continue;
-    if (tag.code == 1001)
-      take = !application || dxf::decodeText(dxf::trimBlanks(tag.value)).CompareNoCase(application) == 0;
+    if (tag.code == 1001) take = !application || dxf::sameName(dxf::trimBlanks(tag.value), name);
     if (take) wanted.push_back(tag);
   }
   return wanted.empty() ? nullptr : dxf::toResbuf(wanted).release();
@@ -230,7 +231,8 @@ Acad::ErrorStatus AcDbObject::setXData(const resbuf* chain) {
   DxfRecordEditor editor(record(), !database() || database()->form().subclassMarkers());
   editor.extendedData(dxf::encodeText(application), dxf::fromResbuf(chain->rbnext));
   DxfRecord changed = editor.finish();
-  if (extendedDataSize(changed) > kMaxExtendedData && extendedDataSize(changed) > extendedDataSize(m_record))
+  if (changed.text().size() > kMaxExtendedData && extendedDataSize(changed) > kMaxExtendedData &&
+      extendedDataSize(changed) > extendedDataSize(m_record))
     return Acad::eXdataSizeExceeded;
   m_record = std::move(changed);
   noteChange();

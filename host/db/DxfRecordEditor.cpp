@@ -2,6 +2,7 @@
 
 #include "host/afx/Numbers.h"
 #include "host/db/DxfText.h"
+#include "host/db/SameName.h"
 
 #include <algorithm>
 
@@ -19,7 +20,9 @@ DxfRecordEditor::DxfRecordEditor(const DxfRecord& base, bool subclassMarkers)
     : m_base(base), m_markers(subclassMarkers) {
   const std::string_view text = base.text();
   const char* start = text.data();
-  for (const DxfTag& tag : base.tags()) {
+  const auto tags = base.tags();
+  m_items.reserve(tags.size() + 1);
+  for (const DxfTag& tag : tags) {
     const char* end = tag.value.data() + tag.value.size();
     if (end < text.data() + text.size()) ++end; // the line feed
     m_items.push_back(
@@ -283,9 +286,7 @@ void DxfRecordEditor::group(std::string_view name, const std::string& innerTags)
 void DxfRecordEditor::extendedData(std::string_view application, const std::string& tags) {
   const std::string whole = tags.empty() ? std::string() : tag(1001, application) + tags;
   for (std::size_t i = 0; i < m_items.size(); ++i) {
-    if (m_items[i].code != 1001 ||
-        dxf::decodeText(dxf::trimBlanks(m_items[i].value)).CompareNoCase(dxf::decodeText(application)) != 0)
-      continue;
+    if (m_items[i].code != 1001 || !dxf::sameName(dxf::trimBlanks(m_items[i].value), application)) continue;
     std::size_t end = i + 1;
     while (end < m_items.size() && m_items[end].code >= 1000 && m_items[end].code != 1001) ++end;
     m_items.erase(m_items.begin() + static_cast<std::ptrdiff_t>(i),

@@ -75,7 +75,9 @@ bool DxfTagReader::next(DxfTag& tag) {
 }
 
 std::vector<DxfTag> dxfTagsOf(std::string_view recordText) {
+  constexpr std::size_t kUsualTagBytes = 10;
   std::vector<DxfTag> tags;
+  tags.reserve(recordText.size() / kUsualTagBytes + 1);
   DxfTagReader reader(recordText);
   for (DxfTag tag; reader.next(tag);) tags.push_back(tag);
   return tags;

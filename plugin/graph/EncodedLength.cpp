@@ -20,7 +20,7 @@ int CodePageLength(wchar_t c, const afx::CodePage& page) {
   bool lacking = false;
   const std::string bytes =
       page.Encode(std::wstring_view(&c, 1), [&](wchar_t, std::string&) { lacking = true; });
-  if (lacking) return c < 0x10000 ? kEscape : 2 * kEscape;
+  if (lacking) return c < 0x10000 ? kEscape : xdata::kMostBytes;
   return static_cast<int>(bytes.size());
 }
 
@@ -31,6 +31,6 @@ int xdata::EncodedLength(wchar_t c, const DrawingForm& form) {
   if (c >= 0 && c < 0x80) return 1;
   const afx::CodePage* page = afx::CodePage::Find(form.codePage);
   // A drawing of an unknown code page: whatever it is, an escape is the longest.
-  const int inPage = page ? CodePageLength(c, *page) : 2 * kEscape;
+  const int inPage = page ? CodePageLength(c, *page) : kMostBytes;
   return std::max(Utf8Length(c), inPage);
 }

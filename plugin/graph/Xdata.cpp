@@ -38,8 +38,11 @@ struct Carried {
   CString value;
 };
 
-// What stands under a carrier's name: the key in braces, and its value behind.
-std::optional<Carried> CarriedValue(const AcDbObject& object, const CString& application) {
+// What stands under the name of the key's carrier: the key in braces, and its value behind.
+std::optional<Carried> CarriedValue(const AcDbObject& object, const CString& key) {
+  // Hardly any object has one.
+  if (object.record().text().find(xdata::kCarrierMark) == std::string_view::npos) return std::nullopt;
+  const CString application = xdata::CarrierName(key);
   const ResbufPtr chain(object.xData(application));
   if (!chain || !IsBrace(chain->rbnext, L"{")) return std::nullopt;
   const resbuf* rb = chain->rbnext->rbnext;
@@ -88,15 +91,14 @@ bool StorePlain(AcDbObject& object, AcDbDatabase& database, const CString& key, 
   for (const CString& piece : xdata::Pieces(value, database.form())) data.text(kTextCode, piece);
   if (!Store(object, database, key, data)) return false;
   // The drawing may have been of a version that the key's name was too long for.
-  const CString carrier = xdata::CarrierName(key);
-  const auto carried = CarriedValue(object, carrier);
-  if (carried && carried->key == key) TakeAway(object, carrier);
+  const auto carried = CarriedValue(object, key);
+  if (carried && carried->key == key) TakeAway(object, xdata::CarrierName(key));
   return true;
 }
 
 bool StoreCarried(AcDbObject& object, AcDbDatabase& database, const CString& key, const CString& value) {
   const CString carrier = xdata::CarrierName(key);
-  const auto before = CarriedValue(object, carrier);
+  const auto before = CarriedValue(object, key);
   if (before && before->key != key) return false; // two keys of one name: the first one stays
   ResbufBuilder data;
   data.text(kApplicationCode, carrier).text(kBraceCode, L"{");
@@ -138,7 +140,7 @@ int ZP::GetXdata(AcDbObject* object, const wchar_t* key, CString& value) {
       return 1;
     }
   }
-  const auto carried = CarriedValue(*object, xdata::CarrierName(name));
+  const auto carried = CarriedValue(*object, name);
   if (!carried || carried->key != name) return 0;
   value = carried->value;
   return 1;

@@ -1,5 +1,6 @@
 #include "plugin/graph/XdataKey.h"
 
+#include <algorithm>
 #include <cstdint>
 
 #include "host/db/AcDbSymbolTableRecord.h"
@@ -40,12 +41,12 @@ bool IsOrdinary(const CString& key) {
 bool xdata::IsApplicationName(const CString& key, const DrawingForm& form) {
   if (!IsOrdinary(key)) return false;
   const bool old = form.version < kFirstWithLongNames;
+  const int limit = old ? kOldNameBytes : kNameBytes;
+  if (old && !std::all_of(key.View().begin(), key.View().end(), IsOldNameCharacter)) return false;
+  if (key.GetLength() * kMostBytes <= limit) return true; // whatever they are, as for nearly every key
   int bytes = 0;
-  for (const wchar_t c : key.View()) {
-    if (old && !IsOldNameCharacter(c)) return false;
-    bytes += EncodedLength(c, form);
-  }
-  return bytes <= (old ? kOldNameBytes : kNameBytes);
+  for (const wchar_t c : key.View()) bytes += EncodedLength(c, form);
+  return bytes <= limit;
 }
 
 bool xdata::IsApplicationNameAnywhere(const CString& key) {

@@ -18,6 +18,7 @@ constexpr CommandRow kTable[] = {
     {L"WB_GXSX", L"管线属性", kDraws, EditPipe},
     {L"WB_GXBZ", L"管线标注", kDraws, LabelPipe},
     {L"WB_GJJS", L"管径计算", kDraws, SizePipe},
+    {L"WB_SCKW", L"生成扣弯", kDraws, MakeBends},
     {L"WB_BZFJ", L"布置房间", kDraws, PlaceRoom},
     {L"WB_CXFJ", L"查询房间负荷", kDraws, QueryRoom},
     {L"WB_CLCD", L"测量长度", kDraws, MeasureLength},

@@ -8,6 +8,7 @@ void DrawMainPipe(); // mains from point to point, with material, diameter and e
 void PlaceRiser();   // risers between two elevations
 void EditPipe();     // shows and changes the data of a pipe
 void LabelPipe();    // the label of a pipe beside it
+void MakeBends();    // crossing bends where selected pipes of different elevations meet
 void SizePipe();     // the diameter for a flow, velocity and friction
 void PlaceRoom();    // a room with its outline, its loads and its record
 void QueryRoom();    // the loads of a room, for heating, for cooling, or with its temperature

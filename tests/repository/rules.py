@@ -41,7 +41,7 @@ OUTSIDE = {
     "apps/": ["host/", "apps/"],
     "plugins/": ["host/", "plugin/", "plugins/"],
     "tests/": ["host/", "plugin/", "plugins/", "tests/"],
-    "bench/": ["host/", "plugin/", "bench/"],
+    "bench/": ["host/", "plugin/", "bench/", "tests/support/"],
     "fuzz/": ["host/", "plugin/", "fuzz/"],
     "tools/": ["host/", "plugin/", "tools/"],
 }
