@@ -70,9 +70,9 @@ void AcDbSymbolTableRecord::setNameAsRead(const CString& name) {
 bool AcDbSymbolTableRecord::isValidSymbolName(const CString& name) {
   if (name.IsEmpty() || name.GetLength() > 255) return false;
   if (name[0] == L' ' || name[name.GetLength() - 1] == L' ') return false;
-  for (const wchar_t c : name.View())
-    if (c < 0x20 || CString(L"<>/\\\":;?*=`,|").Find(c) >= 0) return false;
-  return true;
+  constexpr std::wstring_view forbidden = L"<>/\\\":;?*=`,|";
+  return std::none_of(name.View().begin(), name.View().end(),
+                      [&](wchar_t c) { return c < 0x20 || forbidden.find(c) != forbidden.npos; });
 }
 
 void AcDbSymbolTableRecord::dxfInFields(DxfTags tags, const DxfDecodeContext& context) {

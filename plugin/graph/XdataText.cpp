@@ -15,6 +15,8 @@ bool LooksLikeEscape(std::wstring_view rest) {
 
 std::vector<CString> xdata::Pieces(const CString& text, const DrawingForm& form) {
   const std::wstring_view all = text.View();
+  // As nearly every value is.
+  if (text.GetLength() * kMostBytes <= kGroupBytes && text.Find(L'\\') < 0) return {text};
   std::vector<CString> pieces;
   std::size_t begin = 0;
   int bytes = 0;
