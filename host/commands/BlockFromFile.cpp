@@ -2,7 +2,7 @@
 
 #include "host/afx/Paths.h"
 #include "host/commands/BlockNames.h"
-#include "host/db/AcDbBlockTable.h"
+#include "host/commands/EraseRange.h"
 #include "host/db/AcDbIdMapping.h"
 #include "host/db/AcDbObjectPointer.h"
 #include "host/db/ExternalReferences.h"
@@ -23,13 +23,6 @@ AcDbObjectId refuse(const CString& reason, const CString& expected = {}) {
   return {};
 }
 
-// Erases what is in the block from begin to end.
-void eraseRange(const AcDbObjectId& block, std::size_t begin, std::size_t end) {
-  const auto ids = AcDbBlockTableRecord::cast(block.object())->entities();
-  for (std::size_t i = begin; i < end; ++i)
-    if (!ids[i].isErased()) block.database()->eraseWhole(*ids[i].object());
-}
-
 // The new contents come in ahead of the old ones' end, so that a failure leaves the block as it was.
 Acad::ErrorStatus redefine(const AcDbObjectId& block, AcDbDatabase& source) {
   const auto* record = AcDbBlockTableRecord::cast(block.object());
@@ -41,9 +34,9 @@ Acad::ErrorStatus redefine(const AcDbObjectId& block, AcDbDatabase& source) {
   AcDbIdMapping map;
   const auto status = block.database()->deepCloneObjects(contents->entities(), block, map);
   if (status == Acad::eOk)
-    eraseRange(block, 0, before);
+    EraseRange(block, 0, before);
   else
-    eraseRange(block, before, record->entities().size());
+    EraseRange(block, before);
   const AcGePoint3d origin = contents->origin();
   AcDbObjectPointer<AcDbBlockTableRecord>(coming, AcDb::kForWrite)->erase();
   if (status != Acad::eOk) return status;

@@ -1,7 +1,6 @@
 #include "host/commands/EntityCopies.h"
 
-#include "host/db/AcDbBlockTable.h"
-#include "host/db/AcDbDatabase.h"
+#include "host/commands/EraseRange.h"
 #include "host/db/AcDbIdMapping.h"
 #include "host/db/FollowingEntity.h"
 #include "host/ed/EdSession.h"
@@ -9,14 +8,6 @@
 #include <algorithm>
 
 namespace commands {
-namespace {
-
-const std::vector<AcDbObjectId>& entitiesOf(const AcDbObjectId& space) {
-  return AcDbBlockTableRecord::cast(space.object())->entities();
-}
-
-} // namespace
-
 EntityCopies::EntityCopies(const std::vector<AcDbObjectId>& ids) {
   for (const auto& id : ids) {
     const AcDbObjectId space = id.object()->ownerId();
@@ -29,17 +20,13 @@ EntityCopies::EntityCopies(const std::vector<AcDbObjectId>& ids) {
 
 std::vector<std::size_t> EntityCopies::ends() const {
   std::vector<std::size_t> ends;
-  for (const Originals& group : m_originals) ends.push_back(entitiesOf(group.space).size());
+  for (const Originals& group : m_originals)
+    ends.push_back(AcDbBlockTableRecord::cast(group.space.object())->entities().size());
   return ends;
 }
 
 void EntityCopies::eraseFrom(const std::vector<std::size_t>& ends) {
-  for (std::size_t group = 0; group < ends.size(); ++group) {
-    const AcDbObjectId space = m_originals[group].space;
-    const std::vector<AcDbObjectId> ids = entitiesOf(space);
-    for (std::size_t i = ends[group]; i < ids.size(); ++i)
-      if (!ids[i].isErased()) space.database()->eraseWhole(*ids[i].object());
-  }
+  for (std::size_t group = 0; group < ends.size(); ++group) EraseRange(m_originals[group].space, ends[group]);
 }
 
 Acad::ErrorStatus EntityCopies::copyThrough(const Originals& originals, const AcGeMatrix3d& matrix) {
