@@ -79,7 +79,9 @@ bool isArrowName(const DxfTag& tag) {
 
 std::string dxf::VersionConverter::fromR12(const AcDbObject& object, DxfTags tags) {
   if (tags.empty()) return {};
-  const std::string_view type = trimBlanks(tags.front().value);
+  std::string_view type = trimBlanks(tags.front().value);
+  // A line end would begin with what blanks hid.
+  while (type.ends_with('\r')) type = trimBlanks(type.substr(0, type.size() - 1));
   // What stands among the entities is read as one, whatever its record is called.
   const bool isEntity = AcDbEntity::cast(&object) != nullptr;
   const bool isDimensionStyle = type == "DIMSTYLE" && !isEntity;

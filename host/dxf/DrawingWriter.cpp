@@ -95,20 +95,22 @@ bool dxf::DrawingWriter::isWanted(const AcDbObject& object) const {
   return !object.isErased() && (!object.isImplicit() || m_form.version >= "AC1015");
 }
 
-std::vector<DrawingForm::Section> dxf::DrawingWriter::sections() {
-  std::vector<DrawingForm::Section> list = m_form.sections;
+std::vector<dxf::DrawingWriter::PlannedSection> dxf::DrawingWriter::sections() {
+  std::vector<PlannedSection> list;
+  for (const DrawingForm::Section& section : m_form.sections) list.push_back({section, list.size()});
   const auto indexIn = [](std::string_view name) {
     return std::find(std::begin(kSectionOrder), std::end(kSectionOrder), name) - std::begin(kSectionOrder);
   };
   const auto need = [&](std::string_view name) {
-    if (std::any_of(list.begin(), list.end(), [&](const auto& section) { return section.name == name; }))
+    if (std::any_of(list.begin(), list.end(),
+                    [&](const auto& planned) { return planned.section.name == name; }))
       return;
     auto at = list.begin();
     for (auto it = list.begin(); it != list.end(); ++it)
-      if (indexIn(it->name) < indexIn(name)) at = it + 1;
-    DrawingForm::Section section;
-    section.name = name;
-    list.insert(at, section);
+      if (indexIn(it->section.name) < indexIn(name)) at = it + 1;
+    PlannedSection planned;
+    planned.section.name = name;
+    list.insert(at, planned);
   };
   const auto anyRecord = [&](const AcDbObjectId& tableId) {
     const auto* table = static_cast<const AcDbSymbolTable*>(tableId.object());
@@ -120,7 +122,7 @@ std::vector<DrawingForm::Section> dxf::DrawingWriter::sections() {
   };
   if (m_converter) {
     for (const std::string_view name : kSectionOrder) need(name);
-    std::erase_if(list, [&](const auto& section) { return !m_converter->hasSection(section.name); });
+    for (PlannedSection& planned : list) planned.isLeftOut = !m_converter->hasSection(planned.section.name);
     return list;
   }
   if (!m_database.header().record().isEmpty()) need("HEADER");
@@ -148,25 +150,30 @@ bool dxf::DrawingWriter::write() {
   put(m_form.preamble.text());
   putStrays(DrawingForm::Stray::behindTail, nullptr, static_cast<std::size_t>(-1));
   for (std::size_t i = 0; i < list.size() && !m_cancelled; ++i) {
-    const DrawingForm::Section& section = list[i];
+    const auto& [section, stood, isLeftOut] = list[i];
+    if (isLeftOut) {
+      putStrays(DrawingForm::Stray::behindHead, nullptr, stood);
+      putStrays(DrawingForm::Stray::behindTail, nullptr, stood);
+      continue;
+    }
     if (section.head.isEmpty()) putCopy(sectionHead(section.name));
     put(section.head.text());
     // The variables of a header stand in its own record.
-    if (section.name != "HEADER") putStrays(DrawingForm::Stray::behindHead, nullptr, i);
+    if (section.name != "HEADER") putStrays(DrawingForm::Stray::behindHead, nullptr, stood);
     // Entities go to the section that they came from, the new ones to the last; what a second section of
     // another name held was taken into the first.
     if (section.name == "ENTITIES") {
       const auto next = std::find_if(list.begin() + static_cast<std::ptrdiff_t>(i) + 1, list.end(),
-                                     [](const auto& other) { return other.name == "ENTITIES"; });
-      writeEntities(next == list.end() ? ~std::uint32_t{0} : next->firstRank);
+                                     [](const auto& other) { return other.section.name == "ENTITIES"; });
+      writeEntities(next == list.end() ? ~std::uint32_t{0} : next->section.firstRank);
     } else if (written.insert(section.name).second) {
       writeSection(section.name);
     }
-    if (section.name == "HEADER") putStrays(DrawingForm::Stray::behindHead, nullptr, i);
+    if (section.name == "HEADER") putStrays(DrawingForm::Stray::behindHead, nullptr, stood);
     put(section.body.text());
     static const std::string endSection = DxfRecordEditor::tag(0, "ENDSEC");
     put(section.tail.isEmpty() ? std::string_view(endSection) : section.tail.text());
-    putStrays(DrawingForm::Stray::behindTail, nullptr, i);
+    putStrays(DrawingForm::Stray::behindTail, nullptr, stood);
   }
   static const std::string eof = DxfRecordEditor::tag(0, "EOF");
   put(m_form.eof.isEmpty() ? std::string_view(eof) : m_form.eof.text());

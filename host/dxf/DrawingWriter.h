@@ -30,7 +30,14 @@ class DrawingWriter {
   std::vector<CString> losses() const;
 
  private:
-  std::vector<DrawingForm::Section> sections();
+  // A section to write, and where it stood among those that were read: what was kept beside it goes there.
+  struct PlannedSection {
+    static constexpr std::size_t kNew = static_cast<std::size_t>(-2);
+    DrawingForm::Section section;
+    std::size_t stood = kNew;
+    bool isLeftOut = false; // the version has none such
+  };
+  std::vector<PlannedSection> sections();
   // Text that outlives the writer, and text that goes away.
   void put(std::string_view text);
   void putCopy(std::string_view text);

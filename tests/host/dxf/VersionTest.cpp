@@ -242,6 +242,7 @@ TEST(Version, WhatStandsWhereItDoesNotBelongInR12ComesOutOnceAndForAll) {
            "0 XRECORD\n1 x" + tail,                             // an object
            "0 POINT\n10 1.0\n20 2.0\n1001 ACAD\n1000 x\n8 A\n62 3" + tail, // behind extended data
            "0 POINT\n8 0\xC0\x1F\n10 1.0\n20 2.0" + tail, // half a character ahead of a control character
+           "0 POINT\r \n8 0\n10 1.0\n20 2.0" + tail,      // a line end within a type
        }) {
     std::string file = DrawingOf(entities, "AC1009");
     file.insert(file.find("0\nENDSEC"), "9\n$DWGCODEPAGE\n3\nANSI_936\n");
@@ -249,6 +250,19 @@ TEST(Version, WhatStandsWhereItDoesNotBelongInR12ComesOutOnceAndForAll) {
     ASSERT_TRUE(opened.ok()) << opened.error();
     const std::string first = savedAs(opened, dxf::kR2000).bytes;
     EXPECT_EQ(Open(first).saved(), first) << entities;
+  }
+}
+
+// Sections that a file lacks come in between, and what belongs to nothing stays behind what it stood behind.
+TEST(Version, WhatStandsBetweenSectionsStaysThere) {
+  for (const char* version : {"AC1009", "AC1015"}) {
+    const std::string file =
+        Tags("0 SECTION\n2 HEADER\n9 $ACADVER\n1 " + std::string(version) +
+             "\n0 ENDSEC\n0 SECTION\n2 ENTITIES\n0 LINE\n5 A1\n8 0\n10 1.0\n20 2.0\n11 3.0\n"
+             "21 4.0\n0 ENDSEC\n0 STRAY\n1 x\n0 EOF");
+    const std::string first = savedAs(Open(file), dxf::kR2000).bytes;
+    EXPECT_GT(first.find("STRAY\n"), first.find("LINE\n")) << version;
+    EXPECT_EQ(Open(first).saved(), first) << version;
   }
 }
 
