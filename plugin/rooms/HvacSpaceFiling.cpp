@@ -1,6 +1,8 @@
 // How a room stands in a drawing file: docs/formats/rooms.md.
 #include <algorithm>
 #include <limits>
+#include <string_view>
+#include <vector>
 
 #include "host/db/DxfDecodeContext.h"
 #include "host/db/DxfRecordEditor.h"
@@ -10,6 +12,8 @@
 
 namespace {
 
+constexpr int kMarkerCode = 100;
+constexpr std::string_view kMarker = "VkDbHvacSpace";
 constexpr int kVersionCode = 90;
 constexpr int kPlaceCode = 10;
 constexpr int kHeightCode = 40;
@@ -19,6 +23,24 @@ constexpr int kNameCode = 3;
 constexpr int kCornerCountCode = 91;
 constexpr int kCornerCodes[] = {11, 21};
 constexpr int kNormalCode = 210;
+
+// Tells codes that were seen already: the first group of a code counts, which is the one that a change goes
+// to.
+class SeenCodes {
+ public:
+  bool isFirst(int code) {
+    if (std::find(m_seen.begin(), m_seen.end(), code) != m_seen.end()) return false;
+    m_seen.push_back(code);
+    return true;
+  }
+
+ private:
+  std::vector<int> m_seen;
+};
+
+bool IsCorner(int code) {
+  return code == kCornerCodes[0] || code == kCornerCodes[1];
+}
 
 } // namespace
 
@@ -35,7 +57,10 @@ void VkDbHvacSpace::dxfInFields(DxfTags tags, const DxfDecodeContext& context) {
   m_loads = preset.m_loads;
   m_boundary.clear();
   m_boundaryChanged = false;
+  SeenCodes seen;
   for (const DxfTag& tag : entity::FieldScope(tags)) {
+    if (tag.code == kMarkerCode && dxf::trimBlanks(tag.value) != kMarker) break; // of a class derived from it
+    if (!IsCorner(tag.code) && !seen.isFirst(tag.code)) continue;
     switch (tag.code) {
     case kVersionCode:
       m_version =
@@ -81,7 +106,18 @@ void VkDbHvacSpace::dxfInFields(DxfTags tags, const DxfDecodeContext& context) {
 
 void VkDbHvacSpace::dxfOutFields(DxfRecordEditor& editor) const {
   AcDbEntity::dxfOutFields(editor);
-  editor.subclass("VkDbHvacSpace");
+  editor.subclass(kMarker);
+  const bool isNew = rawRecord().isEmpty();
+  const auto putBoundary = [&] {
+    editor.integer(kCornerCountCode, static_cast<long long>(m_boundary.size()));
+    std::string run;
+    for (const AcGePoint2d& corner : m_boundary)
+      run += DxfRecordEditor::realTag(kCornerCodes[0], corner.x) +
+             DxfRecordEditor::realTag(kCornerCodes[1], corner.y);
+    editor.replaceRun(kCornerCodes, run);
+  };
+  // Groups that stand between the corners go with them, and come back below.
+  if (m_boundaryChanged && !isNew) putBoundary();
   editor.integer(kVersionCode, m_version);
   editor.point(kPlaceCode, m_position);
   editor.real(kHeightCode, m_textHeight);
@@ -89,13 +125,6 @@ void VkDbHvacSpace::dxfOutFields(DxfRecordEditor& editor) const {
   editor.text(kNumberCode, m_number);
   editor.text(kNameCode, m_name);
   for (const auto& group : kHvacSpaceLoadGroups) editor.real(group.code, m_loads.*group.figure);
-  if (m_boundaryChanged || rawRecord().isEmpty()) {
-    editor.integer(kCornerCountCode, static_cast<long long>(m_boundary.size()));
-    std::string run;
-    for (const AcGePoint2d& corner : m_boundary)
-      run += DxfRecordEditor::realTag(kCornerCodes[0], corner.x) +
-             DxfRecordEditor::realTag(kCornerCodes[1], corner.y);
-    editor.replaceRun(kCornerCodes, run);
-  }
+  if (isNew) putBoundary();
   editor.vector(kNormalCode, m_normal, {0, 0, 1});
 }

@@ -131,15 +131,47 @@ TEST_F(HvacSpaceFiling, ANewerVersionKeepsWhatThisOneDoesNotKnow) {
   ASSERT_TRUE(room);
   {
     const AcDbObjectPointer<VkDbHvacSpace> open(room->objectId(), AcDb::kForWrite);
+    EXPECT_EQ(open->GetNumber(), L"101") << "the first of a code counts";
     ASSERT_EQ(Acad::eOk, open->SetTotalHeatLoad(6));
+    ASSERT_EQ(Acad::eOk, open->SetNumber(L"102"));
     ASSERT_EQ(Acad::eOk, open->SetBoundary({{0, 0, 0}, {1, 0, 0}, {1, 1, 0}}));
   }
   const std::string record(room->record().text());
   EXPECT_NE(record.find("90\n7\n"), record.npos);
   EXPECT_NE(record.find("420\n99\n"), record.npos);
   EXPECT_NE(record.find("\nsecond\n"), record.npos);
+  EXPECT_NE(record.find("  1\n102\n"), record.npos) << record;
   EXPECT_NE(record.find(" 41\n6.0\n"), record.npos) << record;
   EXPECT_NE(record.find(" 91\n3\n"), record.npos) << record;
+}
+
+TEST_F(HvacSpaceFiling, GroupsInAnyOrderSurviveAChange) {
+  const auto opened =
+      OpenRoom("11\n0\n21\n0\n3\nA\n41\n7\n10\n5\n20\n6\n11\n9\n21\n0\n1\n101\n91\n3\n11\n9\n21\n9\n90\n1\n");
+  VkDbHvacSpace* room = RoomIn(*opened);
+  ASSERT_TRUE(room);
+  EXPECT_EQ(room->GetBoundary().size(), 3u);
+  {
+    const AcDbObjectPointer<VkDbHvacSpace> open(room->objectId(), AcDb::kForWrite);
+    ASSERT_EQ(Acad::eOk, open->transformBy(AcGeMatrix3d::translation({1, 1, 0})));
+  }
+  const auto again = Open(dxf::WriteDrawingBytes(*opened));
+  room = RoomIn(*again);
+  ASSERT_TRUE(room);
+  EXPECT_EQ(room->GetName(), L"A");
+  EXPECT_EQ(room->GetNumber(), L"101");
+  EXPECT_EQ(room->GetTotalHeatLoad(), 7);
+  EXPECT_EQ(room->GetPosition(), AcGePoint3d(6, 7, 0));
+  EXPECT_EQ(room->GetBoundary(), (std::vector<AcGePoint3d>{{1, 1, 0}, {10, 1, 0}, {10, 10, 0}}));
+}
+
+TEST_F(HvacSpaceFiling, GroupsOfAnotherSubclassAreItsOwn) {
+  const auto opened = OpenRoom("1\n101\n41\n7\n100\nVkDbHvacHall\n1\nhall\n11\n5\n42\n8\n");
+  VkDbHvacSpace* room = RoomIn(*opened);
+  ASSERT_TRUE(room);
+  EXPECT_EQ(room->GetNumber(), L"101");
+  EXPECT_EQ(room->GetTotalCoolLoad(), 0);
+  EXPECT_TRUE(room->GetBoundary().empty());
 }
 
 TEST_F(HvacSpaceFiling, DamagedGroupsAreLeftAtTheirDefaults) {
