@@ -23,7 +23,7 @@ COMMON = ["管材", "管径", "流量", "流速", "比摩阻", "沿程阻力"]
 KEYS = {"LINE": COMMON + ["相对标高"], "INSERT": COMMON + ["始点标高", "终点标高", "编号", "编号前缀"]}
 
 # What the day draws.
-COUNTS = {"mains": 16, "sized": 16, "risers": 2, "bends": 0}
+COUNTS = {"mains": 32, "sized": 32, "risers": 4, "bends": 16}
 
 
 def pipe_data(entity):

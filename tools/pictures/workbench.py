@@ -82,10 +82,14 @@ PICTURES = {
     "workbench-mains": MAINS + RISERS,
     "workbench-labels": MAINS + RISERS + SIZES + LABELS,
 }
+DAY = exported.ROOT / "tests" / "drawings" / "working_day" / "script.scr"
 
 
 def main(arguments):
     program, output = exported.program_and_output(arguments, __doc__)
+    drawn = DAY.read_text(encoding="utf-8").split(";=== 存盘")[0]
+    exported.draw(program, output / "workbench-day.png", drawn, ("-500,-500", "24500,17000"), "250x175",
+                  [exported.ROOT / "examples" / "sample-plan.dxf"])
     for picture, lines in PICTURES.items():
         exported.draw(program, output / f"{picture}.png", lines, WINDOW, SIZE)
 
