@@ -1,6 +1,7 @@
 // Crossing bends: where pipes of different elevations meet in plan, a small circle stands for the vertical
 // run that joins them. The lower pipes stop at its edge, the higher ones run to its centre. The circle is a
 // block, marked by extended data, and at the same time a riser that knows the elevations which it joins.
+// docs/crossing-bends.md shows what comes of a drawing.
 //
 // A sibling makes one of these within a command of its own, limits the layers if it likes, and calls Go.
 #pragma once
