@@ -40,7 +40,7 @@ def install(build, prefix, work):
     run(["cmake", "--install", build, "--prefix", prefix], work)
     for wanted in ("bin/zpcad", "lib/zppipemanager/ZPPipeManager.so", "lib/zppipemanager/ZPPipeManager.menu",
                    "lib/zppipemanager/ZPWorkbench.so", "lib/zppipemanager/ZPWorkbench.menu",
-                   "share/zppipemanager/data/Data/PipeMaterial.idp", "share/doc/zppipemanager/siblings.md",
+                   "share/zppipemanager/data/Data/PipeMaterial.idp", "share/doc/zppipemanager/docs/siblings.md",
                    "include/zppipemanager/host/db/AcDbLine.h", "include/zppipemanager/plugin/pipes/CZPPipeMaterial.h"):
         expect((prefix / wanted).exists(), f"{wanted} was not installed")
     # What exports nothing is not for siblings, and neither is the top of the host.
