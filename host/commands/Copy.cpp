@@ -11,8 +11,9 @@
 namespace commands {
 namespace {
 
-constexpr long kMaxInRow = 32767; // as many as an insertion may have in a row
-constexpr long kCopiesOnce = 1;   // of COPYMODE
+constexpr long kMaxInRow = 32767;             // as many as an insertion may have in a row
+constexpr std::size_t kMaxCopies = 1'000'000; // at once: a slip must not fill the memory
+constexpr long kCopiesOnce = 1;               // of COPYMODE
 
 // Escape gives nothing; otherwise whether it goes on.
 bool askMode() {
@@ -41,8 +42,12 @@ std::optional<std::vector<AcGeMatrix3d>> askRow(const std::vector<AcDbObjectId>&
   for (;;) {
     count = ed::AskInteger({L"输入一排的项目数（含原来的一个）:", {}, RSG_NONULL, {}});
     if (count.isCancelled()) return std::nullopt;
-    if (count.integer >= 2 && count.integer <= kMaxInRow) break;
-    EdSession::instance().refuse(L"这不是一排的项目数。", L"2 至 32767 的整数");
+    if (count.integer < 2 || count.integer > kMaxInRow)
+      EdSession::instance().refuse(L"这不是一排的项目数。", L"2 至 32767 的整数");
+    else if (ids.size() * static_cast<std::size_t>(count.integer - 1) > kMaxCopies)
+      EdSession::instance().refuse(L"一次复制的实体太多。", L"较小的数，一次至多复制 1000000 个");
+    else
+      break;
   }
   const auto question = [&](const wchar_t* prompt, const wchar_t* keywords, double share) {
     ed::Question asked{prompt, keywords, RSG_NONULL, base};

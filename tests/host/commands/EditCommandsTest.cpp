@@ -135,6 +135,13 @@ TEST_F(EditCommands, ARowHasAtLeastTwo) {
   EXPECT_EQ(starts(), (Starts{{0, 0, 0}, {7, 0, 0}}));
 }
 
+TEST_F(EditCommands, ARowOfTooManyIsRefused) {
+  for (int i = 0; i < 40; ++i) addLine({0, 0, 0}, {1, 0, 0});
+  run(L"COPY", {L"all", L"", L"0,0", L"A", L"32767", L"2", L"7,0", L""});
+  EXPECT_GE(reason().Find(L"太多"), 0);
+  EXPECT_EQ(80u, entityCount());
+}
+
 TEST_F(EditCommands, CopyOnceEndsWithTheFirst) {
   addLine({0, 0, 0}, {1, 0, 0});
   run(L"COPY", {L"all", L"", L"O", L"S", L"0,0", L"10,0"});

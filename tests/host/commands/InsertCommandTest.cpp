@@ -201,6 +201,28 @@ TEST_F(InsertCommand, AFileIsFoundBesideTheDrawingWithoutItsEnding) {
   EXPECT_EQ(7, lineLength(reference().blockTableRecord()));
 }
 
+TEST_F(InsertCommand, AFileIsADrawingByItsContentAndNotByItsName) {
+  const CString path = drawingFile("FJPG1.Dwg", 7);
+  run(L"INSERT", {path, L"1,1", L"", L"", L""});
+  EXPECT_EQ(7, lineLength(reference().blockTableRecord()));
+  EXPECT_TRUE(frontEnd.said(L"块“FJPG1”已定义"));
+}
+
+TEST_F(InsertCommand, ATildeAsksForAFile) {
+  const CString path = drawingFile("风机.dxf", 7);
+  run(L"INSERT", {L"~", path, L"1,1", L"", L"", L""});
+  EXPECT_EQ(7, lineLength(reference().blockTableRecord()));
+}
+
+TEST_F(InsertCommand, PresetAttributesAreNotAskedForAndVerifiedOnesTwice) {
+  const std::string attdef = "0\nATTDEF\n8\n0\n10\n0.0\n20\n0.0\n40\n2.5\n";
+  write(file("签.dxf"), "0\nSECTION\n2\nENTITIES\n" + attdef + "1\n暖通\n3\n\n2\n专业\n70\n8\n" + attdef +
+                            "1\n\n3\n图号\n2\n图号\n70\n4\n0\nENDSEC\n0\nEOF\n");
+  run(L"INSERT", {file("签.dxf"), L"0,0", L"", L"", L"", L"A", L"B"});
+  EXPECT_EQ(values(), (std::vector<CString>{L"暖通", L"B"}));
+  EXPECT_TRUE(wasAsked(L"图号 <A>:")) << "with what was typed first";
+}
+
 TEST_F(InsertCommand, ABlockThatIsThereIsRedefinedOnlyIfAskedTo) {
   const CString path = drawingFile("风机.dxf", 7);
   const auto block = addBlock(L"风机");
