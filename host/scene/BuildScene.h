@@ -24,6 +24,9 @@ struct SceneOptions {
   const TextMetrics* metrics = nullptr; // estimated ones without it
   bool forPlotting = false;             // leaves out layers that are not plotted
   bool viewports = true;                // shows model space in the viewports of a layout
+  // Entities that the host has no painter for are asked to draw themselves. Only the thread that edits may do
+  // that; without it they are left out, and Scene::asksPlugIns tells that there are some.
+  bool asksPlugIns = true;
   Limits limits;
 };
 

@@ -17,6 +17,7 @@ struct DrawingVariables {
   double dimensionScale = 1;      // DIMSCALE
   double dimensionArrow = 0.18;   // DIMASZ
   double dimensionText = 0.18;    // DIMTXT
+  bool operator==(const DrawingVariables&) const = default;
 };
 
 DrawingVariables VariablesOf(const AcDbDatabase& database);

@@ -76,6 +76,7 @@ struct Scene {
   double pointSize =
       0;         // PDSIZE: above 0 in drawing units, else a share of the window's height, see PointMark
   ge::Box2d box; // around all groups
+  bool asksPlugIns = false; // some entities draw themselves
   // What the drawing has and the picture doesn't, a sentence each, most important first.
   std::vector<CString> leftOut;
 

@@ -247,6 +247,8 @@ void SceneBuilder::drawEntity(const Frame& frame, const AcDbObjectId& id) {
   look.hidden = hidden;
   Pen pen(*this, frame, *entity, tags, look);
   if (const Painter painter = PainterOf(type)) return painter(pen);
+  m_scene.asksPlugIns = true;
+  if (!m_options.asksPlugIns) return;
   WorldDrawPen draw(pen);
   draw.entity();
   if (draw.isEmpty()) leaveOut(CString::FromUtf8(type) + L" 未画", *entity);
