@@ -2,6 +2,7 @@
 
 #include "host/afx/Paths.h"
 #include "host/ed/EdSession.h"
+#include "host/qt/canvas/Canvas.h"
 
 #include <QApplication>
 #include <QPixmap>
@@ -30,6 +31,9 @@ Screenshot::Screenshot(CString file, QWidget& window, CommandFeed& feed)
 
 void Screenshot::take(QWidget& widget) {
   m_taken = true;
+  // A large drawing may still be in the making.
+  for (QWidget* inside : widget.findChildren<QWidget*>(QStringLiteral("canvas")))
+    if (auto* canvas = dynamic_cast<Canvas*>(inside)) canvas->finishPainting();
   m_saved = widget.grab().save(QString::fromStdString(afx::NativePath(m_file)), "PNG");
   if (!m_saved) std::cout << "不能写图片文件“" << m_file.ToUtf8() << "”。\n";
   m_feed.whenIdle([] { EdSession::instance().requestQuit(); });

@@ -20,6 +20,7 @@ constexpr double kSnapPixels = 11;
 constexpr double kDragPixels = 4;     // less is a click
 constexpr double kWheelFactor = 1.25; // for one notch
 constexpr double kNotch = 120;
+constexpr std::chrono::milliseconds kSlice(12); // of painting between two looks at what the user does
 
 const EdPromptState& prompt() {
   return EdSession::instance().prompts().current();
@@ -32,12 +33,15 @@ Canvas::Canvas(CommandFeed& feed, QWidget* parent) : QWidget(parent), m_feed(fee
   setCursor(Qt::BlankCursor);
   setMinimumSize(160, 120);
   setAttribute(Qt::WA_OpaquePaintEvent);
+  m_goOn.setSingleShot(true);
+  connect(&m_goOn, &QTimer::timeout, this, [this] { goOnPainting(kSlice); });
 }
 
 void Canvas::setDocument(AcApDocument* document) {
   m_picture.setDocument(document);
   m_windowFrom.reset();
   m_panFrom.reset();
+  m_shown = {};
   if (document) ViewControl::fit(*document, size());
   refresh(true);
 }
@@ -50,13 +54,17 @@ void Canvas::setColors(const CanvasColors& colors) {
 
 void Canvas::refresh(bool all) {
   if (all) m_picture.invalidate();
-  if (m_picture.update()) m_stale = true;
+  const auto change = m_picture.update();
+  // Where little has changed it is painted at once, also in a large drawing.
+  if (change.any && !change.all && !m_stale && !m_painting)
+    m_shown.repaint(change.box, m_picture);
+  else if (change.any)
+    m_stale = true;
   if (m_cursor) moveCursor(*m_cursor);
   update();
 }
 
 void Canvas::viewMoved() {
-  m_stale = true;
   if (m_cursor) moveCursor(*m_cursor);
   update();
 }
@@ -82,7 +90,6 @@ AcGePoint3d Canvas::worldAt(const QPointF& at) const {
 
 void Canvas::resizeEvent(QResizeEvent*) {
   if (m_picture.document()) ViewControl::fit(*m_picture.document(), size());
-  m_stale = true;
 }
 
 // --- the mouse

@@ -5,9 +5,10 @@
 #include "host/qt/Theme.h"
 #include "host/qt/canvas/Aim.h"
 #include "host/qt/canvas/DrawingPicture.h"
+#include "host/qt/canvas/PaintedView.h"
 #include "host/qt/canvas/ViewControl.h"
 
-#include <QPixmap>
+#include <QTimer>
 #include <QWidget>
 
 #include <functional>
@@ -30,6 +31,10 @@ class Canvas : public QWidget {
   // Half the side of the pick box in drawing units.
   double pickAperture() const;
   void zoomAll();
+  // A large drawing is painted little by little; until it is done the view before is shown in its place.
+  bool isPainted() const { return !m_stale && !m_painting && m_shown.shows(pixelMap()); }
+  // Paints what is left at once, for a picture of the window.
+  void finishPainting();
 
   // Told where a click would go, and that the mouse has left.
   std::function<void(const AcGePoint3d&)> cursorMoved;
@@ -53,6 +58,10 @@ class Canvas : public QWidget {
   void selectNow(const std::vector<AcDbObjectId>& ids, bool takeAway);
   void moveCursor(const QPointF& at);
   AcGePoint3d worldAt(const QPointF& at) const;
+  ViewMap pixelMap() const;
+  void paintDrawing();
+  void goOnPainting(std::chrono::microseconds time);
+  void showDrawing(QPainter& painter);
   void paintOverlay(QPainter& painter);
   void paintSelected(QPainter& painter);
   void paintRubber(QPainter& painter);
@@ -64,8 +73,11 @@ class Canvas : public QWidget {
   CanvasColors m_colors = DarkCanvas();
   DrawingPicture m_picture;
   ViewControl m_view;
-  QPixmap m_painted; // the drawing without what is over it
-  bool m_stale = true;
+  PaintedView m_shown; // the drawing without what is over it
+  PaintedView m_next;  // while it is painted, for another view or after a change
+  bool m_painting = false;
+  bool m_stale = true; // the drawing isn't what was painted
+  QTimer m_goOn;
   std::optional<QPointF> m_cursor; // while the mouse is here
   Aim m_aim;
   std::optional<QPointF> m_panFrom;

@@ -11,28 +11,76 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
+#include <utility>
 
 namespace desktop {
 namespace {
 
 constexpr double kSnapMark = 6; // pixels to each side
+// Of a frame that painting may take, so that 30 of them fit into a second.
+constexpr std::chrono::milliseconds kFrame(18);
 constexpr std::size_t kMostHighlighted = 5000;
 
 } // namespace
 
-void Canvas::paintEvent(QPaintEvent*) {
+// The view in pixels of the screen.
+ViewMap Canvas::pixelMap() const {
+  ViewMap shown = map();
   const double ratio = devicePixelRatioF();
-  const QSize pixels(static_cast<int>(width() * ratio), static_cast<int>(height() * ratio));
-  if (m_stale || m_painted.size() != pixels) {
-    m_painted = QPixmap(pixels);
-    m_painted.setDevicePixelRatio(ratio);
-    m_painted.fill(m_colors.background);
-    QPainter onPixmap(&m_painted);
-    m_picture.paint(onPixmap, map(), m_colors);
+  shown.size = {std::floor(shown.size.width() * ratio), std::floor(shown.size.height() * ratio)};
+  shown.unitsPerPixel /= ratio;
+  return shown;
+}
+
+// Has the pixels of the view, or begins with them.
+void Canvas::paintDrawing() {
+  const ViewMap wanted = pixelMap();
+  const bool shifted = m_shown.shiftTo(wanted, m_picture);
+  if (m_painting ? m_stale || !m_next.shiftTo(wanted, m_picture) : m_stale || !shifted) {
+    m_next.begin(wanted, m_colors.background);
+    m_painting = true;
     m_stale = false;
   }
+  if (m_painting) goOnPainting(kFrame);
+}
+
+void Canvas::goOnPainting(std::chrono::microseconds time) {
+  if (!m_painting) return;
+  if (!m_next.goOn(m_picture, time)) return m_goOn.start(0);
+  std::swap(m_shown, m_next);
+  m_painting = false;
+  update();
+}
+
+void Canvas::finishPainting() {
+  paintDrawing();
+  goOnPainting(std::chrono::hours(1));
+}
+
+// While the view is painted, what is there of it, and over it the view before in its place.
+void Canvas::showDrawing(QPainter& painter) {
+  const double ratio = devicePixelRatioF();
+  painter.save();
+  painter.scale(1 / ratio, 1 / ratio);
+  if (!m_painting) {
+    painter.drawImage(0, 0, m_shown.image());
+  } else {
+    painter.drawImage(0, 0, m_next.image());
+    const ViewMap& now = m_next.map();
+    const ViewMap& before = m_shown.map();
+    constexpr double kMostScaled = 32;
+    const double scale = before.unitsPerPixel / now.unitsPerPixel;
+    if (!m_shown.isEmpty() && scale < kMostScaled && scale > 1 / kMostScaled)
+      painter.drawImage(QRectF(now.toScreen(before.toWorld({0, 0})), before.size * scale), m_shown.image());
+  }
+  painter.restore();
+}
+
+void Canvas::paintEvent(QPaintEvent*) {
+  paintDrawing();
   QPainter painter(this);
-  painter.drawPixmap(0, 0, m_painted);
+  showDrawing(painter);
   if (m_picture.document()) {
     paintOverlay(painter);
   } else {

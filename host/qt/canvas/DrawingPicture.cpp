@@ -3,58 +3,45 @@
 #include "host/db/AcDbDatabase.h"
 #include "host/ed/AcApDocument.h"
 #include "host/ed/EntitySearch.h"
-#include "host/qt/canvas/ScenePainter.h"
-#include "host/scene/BuildScene.h"
 
-#include <utility>
+#include <algorithm>
+#include <thread>
 
 namespace desktop {
+namespace {
 
-DrawingPicture::~DrawingPicture() {
-  setDocument(nullptr);
+constexpr unsigned kMostThreads = 8; // of more the memory is the bound
+
+} // namespace
+
+DrawingPicture::DrawingPicture() {
+  const unsigned threads = std::clamp(std::thread::hardware_concurrency(), 1U, kMostThreads);
+  for (unsigned i = 0; i < threads; ++i) {
+    m_options.emplace_back().metrics = &m_workers.emplace_back().metrics;
+  }
 }
 
 void DrawingPicture::setDocument(AcApDocument* document) {
   if (document == m_document) return;
-  if (m_document) m_document->database()->removeReactor(this);
   m_document = document;
-  if (m_document) m_document->database()->addReactor(this);
-  invalidate();
+  AcDbDatabase* database = document ? document->database() : nullptr;
+  m_scene.show(database, database ? ed::CurrentSpace(*database) : AcDbObjectId());
 }
 
-void DrawingPicture::invalidate() {
-  m_changed = true;
-}
-
-bool DrawingPicture::update() {
-  if (m_document) {
-    const auto& undo = m_document->database()->undo();
-    const bool undone = !undo.redoName().IsEmpty();
-    if (undo.commandCount() != std::exchange(m_commands, undo.commandCount()) ||
-        undone != std::exchange(m_undone, undone))
-      m_changed = true;
-  }
-  if (!std::exchange(m_changed, false)) return false;
-  m_scene = {};
-  if (!m_document) return true;
-  const OutlineMetrics metrics(m_outlines);
-  scene::SceneOptions options;
-  options.metrics = &metrics;
-  auto& database = *m_document->database();
-  m_scene = scene::BuildScene(database, ed::CurrentSpace(database), options);
-  const auto& hidden = m_document->edit().hidden;
-  std::erase_if(m_scene.groups, [&](const scene::Group& group) { return hidden.contains(group.entity); });
-  return true;
-}
-
-void DrawingPicture::paint(QPainter& painter, const ViewMap& map, const CanvasColors& colors) {
-  ScenePainter(painter, m_scene, map, colors.background, m_outlines).paint();
+scene::LiveScene::Change DrawingPicture::update() {
+  auto change = m_scene.update(m_options);
+  const auto hidden = m_document ? m_document->edit().hidden : decltype(m_hidden)();
+  if (hidden != m_hidden) change.any = change.all = true;
+  m_hidden = hidden;
+  return change;
 }
 
 std::vector<AcDbObjectId> DrawingPicture::entitiesNear(const ge::Box2d& box) const {
   std::vector<AcDbObjectId> near;
-  for (const scene::Group& group : m_scene.groups)
-    if (group.unbounded || group.box.Overlaps(box)) near.push_back(group.entity);
+  for (std::size_t i = 0; i < m_scene.pageCount(); ++i)
+    for (const scene::Group& group : m_scene.page(i).groups)
+      if ((group.unbounded || group.box.Overlaps(box)) && !m_hidden.contains(group.entity))
+        near.push_back(group.entity);
   return near;
 }
 

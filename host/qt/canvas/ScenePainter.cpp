@@ -5,8 +5,6 @@
 #include "host/scene/InfiniteLine.h"
 #include "host/scene/PointMark.h"
 
-#include <QPainter>
-
 #include <algorithm>
 #include <cmath>
 
@@ -15,56 +13,71 @@ namespace {
 
 constexpr double kFar = 20'000;      // pixels off the window that painting can still hold
 constexpr double kFinestPattern = 4; // pixels of a pattern's length, below which it is a line
+constexpr double kThin = 1.5;        // pixels of width, below which a line is one pixel wide
 constexpr double kLeastText = 2.5;   // pixels of height, below which a line stands for the text
-constexpr double kLeastGroup = 1.0;  // pixels, below which a dot stands for the entity
+constexpr double kCoarseLetter = 9;  // pixels of height, below which rough outlines will do
+constexpr double kLargestLetter = 60;
+constexpr double kLeastGroup = 1.0; // pixels, below which a dot stands for the entity
 constexpr std::size_t kMostDashes = 20'000;
+
+ge::Box2d WorldBox(const ViewMap& map, const QRect& area) {
+  constexpr double kAround = 2; // pixels: half a line, and what smoothing adds
+  return ge::Box2d::FromCorners(map.toWorld({area.left() - kAround, area.top() - kAround}),
+                                map.toWorld({area.right() + 1 + kAround, area.bottom() + 1 + kAround}));
+}
 
 } // namespace
 
-ScenePainter::ScenePainter(QPainter& painter, const scene::Scene& scene, const ViewMap& map,
-                           const QColor& background, TextOutlines& outlines)
-    : m_painter(painter), m_scene(scene), m_map(map),
+ScenePainter::ScenePainter(QImage& image, const QRect& area, const ViewMap& map, const QColor& background,
+                           TextOutlines& outlines)
+    : m_painter(&image), m_area(area), m_map(map), m_lines(image, area), m_strokes(m_lines, m_map),
+      m_letters(image, area),
       m_outlines(outlines), m_background{static_cast<std::uint8_t>(background.red()),
                                          static_cast<std::uint8_t>(background.green()),
                                          static_cast<std::uint8_t>(background.blue())},
-      m_visible(map.visible()) {}
+      m_visible(WorldBox(map, area)) {
+  m_painter.setClipRect(m_area);
+  setColor(m_sceneColor);
+}
 
-void ScenePainter::paint() {
-  m_painter.save();
+void ScenePainter::paint(const scene::Scene& scene, const std::unordered_set<AcDbObjectId>& hidden) {
+  m_scene = &scene;
   const double least = kLeastGroup * m_map.unitsPerPixel;
-  for (const scene::Group& group : m_scene.groups) {
+  for (const scene::Group& group : scene.groups) {
     if (!group.unbounded && !group.box.Overlaps(m_visible)) continue;
-    const auto begin = m_scene.primitives.begin() + group.firstPrimitive;
+    if (!hidden.empty() && hidden.contains(group.entity)) continue;
+    const auto begin = scene.primitives.begin() + group.firstPrimitive;
     const bool tiny = !group.unbounded && group.primitiveCount > 0 &&
                       group.box.maxX - group.box.minX < least && group.box.maxY - group.box.minY < least &&
                       begin->kind != scene::Primitive::Kind::point;
     if (tiny) {
       setColor(begin->color);
-      m_painter.fillRect(QRectF(m_map.toScreen(AcGePoint2d(group.box.minX, group.box.minY)), QSizeF(1, 1)),
-                         m_color);
+      const QPointF at = m_map.toScreen(AcGePoint2d(group.box.minX, group.box.minY));
+      m_lines.dot({at.x(), at.y()});
       continue;
     }
     std::for_each(begin, begin + group.primitiveCount,
                   [this](const scene::Primitive& primitive) { paintPrimitive(primitive); });
   }
-  m_painter.restore();
+  setClip(scene::Primitive::kNone); // it is the scene's own
 }
 
 void ScenePainter::paintPrimitive(const scene::Primitive& primitive) {
   using Kind = scene::Primitive::Kind;
   setClip(primitive.clip);
   setColor(primitive.color);
-  const scene::PathView path = m_scene.path(primitive);
+  const scene::PathView path = m_scene->path(primitive);
   switch (primitive.kind) {
   case Kind::stroke:
     return stroke(primitive, path);
   case Kind::fill:
     return fill(primitive);
   case Kind::text:
-    return text(m_scene.texts[primitive.text]);
+    return text(m_scene->texts[primitive.text]);
   case Kind::point: {
-    const double size = scene::PointMarkSize(m_scene.pointSize, m_visible.maxY - m_visible.minY);
-    const scene::Path mark = scene::PointMark(m_scene.pointMode, m_scene.points[primitive.firstPoint], size);
+    const double size = scene::PointMarkSize(m_scene->pointSize, m_visible.maxY - m_visible.minY);
+    const scene::Path mark =
+        scene::PointMark(m_scene->pointMode, m_scene->points[primitive.firstPoint], size);
     if (!mark.isEmpty()) stroke(primitive, mark.view());
     return;
   }
@@ -84,23 +97,26 @@ void ScenePainter::paintPrimitive(const scene::Primitive& primitive) {
 void ScenePainter::setClip(std::int32_t clip) {
   if (clip == m_clip) return;
   m_clip = clip;
-  m_painter.setClipping(false);
-  bool first = true;
-  for (; clip != scene::Primitive::kNone; clip = m_scene.clips[static_cast<std::size_t>(clip)].within) {
-    const scene::PathView path = m_scene.clips[static_cast<std::size_t>(clip)].path.view();
+  m_painter.setClipRect(m_area);
+  for (; clip != scene::Primitive::kNone; clip = m_scene->clips[static_cast<std::size_t>(clip)].within) {
+    const scene::PathView path = m_scene->clips[static_cast<std::size_t>(clip)].path.view();
     const scene::Path near = isFar(path) ? plot::CutFill(path, m_visible) : scene::Path();
-    m_painter.setClipPath(onScreen(isFar(path) ? near.view() : path),
-                          first ? Qt::ReplaceClip : Qt::IntersectClip);
-    first = false;
+    m_painter.setClipPath(onScreen(isFar(path) ? near.view() : path), Qt::IntersectClip);
   }
 }
 
 void ScenePainter::setColor(const scene::Color& color) {
+  if (m_color.isValid() && color == m_sceneColor) return;
+  m_sceneColor = color;
   const scene::Rgb rgb = color.on(m_background);
-  const QColor wanted(rgb.red, rgb.green, rgb.blue, color.alpha);
-  if (wanted == m_color) return;
-  m_color = wanted;
+  m_color = QColor(rgb.red, rgb.green, rgb.blue, color.alpha);
+  m_lines.setColor(m_color);
+  m_letters.setColor(m_color);
   m_width = -1;
+}
+
+void ScenePainter::setSmooth() {
+  if (!m_smooth) m_painter.setRenderHint(QPainter::Antialiasing, m_smooth = true);
 }
 
 bool ScenePainter::isFar(scene::PathView path) const {
@@ -148,6 +164,15 @@ QPainterPath ScenePainter::onScreen(scene::PathView path) const {
 }
 
 void ScenePainter::stroke(const scene::Primitive& primitive, scene::PathView path) {
+  const double width = primitive.width / m_map.unitsPerPixel;
+  if (width > kThin || m_clip != scene::Primitive::kNone)
+    return wideStroke(primitive, path, std::max(width, 1.0));
+  const bool dashed = primitive.pattern != scene::Primitive::kNone;
+  m_strokes.draw(path, dashed ? &m_scene->patterns[static_cast<std::size_t>(primitive.pattern)] : nullptr,
+                 !isUpright(path));
+}
+
+void ScenePainter::wideStroke(const scene::Primitive& primitive, scene::PathView path, double width) {
   scene::Path near;
   if (isFar(path)) {
     const double border = kFar / 4 * m_map.unitsPerPixel;
@@ -157,34 +182,27 @@ void ScenePainter::stroke(const scene::Primitive& primitive, scene::PathView pat
   }
   scene::Path dashed;
   if (primitive.pattern != scene::Primitive::kNone) {
-    const scene::Pattern& pattern = m_scene.patterns[static_cast<std::size_t>(primitive.pattern)];
+    const scene::Pattern& pattern = m_scene->patterns[static_cast<std::size_t>(primitive.pattern)];
     if (pattern.length() / m_map.unitsPerPixel >= kFinestPattern &&
         scene::AddDashes(path, pattern, kMostDashes, dashed))
       path = dashed.view();
   }
-  const double width = primitive.width > 0 ? std::max(primitive.width / m_map.unitsPerPixel, 1.0) : 1.0;
   if (width != m_width) {
     m_width = width;
-    m_painter.setPen(QPen(m_color, width, Qt::SolidLine, width > 1.5 ? Qt::FlatCap : Qt::RoundCap,
-                          width > 1.5 ? Qt::MiterJoin : Qt::RoundJoin));
+    m_painter.setPen(QPen(m_color, width, Qt::SolidLine, width > kThin ? Qt::FlatCap : Qt::RoundCap,
+                          width > kThin ? Qt::MiterJoin : Qt::RoundJoin));
     m_painter.setBrush(Qt::NoBrush);
   }
-  if (const bool smooth = !isUpright(path); smooth != m_smooth) {
-    m_smooth = smooth;
-    m_painter.setRenderHint(QPainter::Antialiasing, smooth);
-  }
-  if (path.verbs.size() == 2 && path.verbs[1] == scene::Verb::line) {
-    m_painter.drawLine(m_map.toScreen(path.points[0]), m_map.toScreen(path.points[1]));
-    return;
-  }
+  setSmooth();
   m_painter.drawPath(onScreen(path));
 }
 
 void ScenePainter::fill(const scene::Primitive& primitive) {
-  const scene::PathView path = m_scene.path(primitive);
+  const scene::PathView path = m_scene->path(primitive);
   const scene::Path near = isFar(path) ? plot::CutFill(path, m_visible) : scene::Path();
   QPainterPath area = onScreen(isFar(path) ? near.view() : path);
   area.setFillRule(Qt::OddEvenFill);
+  setSmooth();
   m_painter.fillPath(area, m_color);
 }
 
@@ -193,15 +211,29 @@ void ScenePainter::text(const scene::TextRun& run) {
   const double height = std::hypot(run.up.x, run.up.y) * k;
   const QPointF at = m_map.toScreen(run.origin);
   if (!(height > 1e-6 && height < kFar && std::fabs(at.x()) < kFar && std::fabs(at.y()) < kFar)) return;
-  if (!m_smooth) m_painter.setRenderHint(QPainter::Antialiasing, m_smooth = true);
-  if (height < kLeastText) {
-    m_width = -1;
-    m_painter.setPen(QPen(m_color, 1));
-    m_painter.drawLine(at, at + QPointF(run.along.x, -run.along.y) * (run.advance * k));
-    return;
+  if (height < kLeastText && m_clip == scene::Primitive::kNone) {
+    const QPointF end = at + QPointF(run.along.x, -run.along.y) * (run.advance * k);
+    return m_lines.line({at.x(), at.y()}, {end.x(), end.y()}, true);
   }
+  if (letters(run, {at.x(), at.y()}, height)) return;
+  setSmooth();
   const QTransform matrix(run.along.x * k, -run.along.y * k, run.up.x * k, -run.up.y * k, at.x(), at.y());
   m_painter.fillPath(matrix.map(m_outlines.of(run.font, Shown(CString(run.text)))), m_color);
+}
+
+// One after the other, where they are small and stand for themselves.
+bool ScenePainter::letters(const scene::TextRun& run, const AcGePoint2d& at, double height) {
+  if (height > kLargestLetter || m_clip != scene::Primitive::kNone || !TextOutlines::isPlain(run.text))
+    return false;
+  const double k = 1 / m_map.unitsPerPixel;
+  GlyphPlace place{{run.along.x * k, -run.along.y * k}, {run.up.x * k, -run.up.y * k}, at};
+  TextOutlines::Face& face = m_outlines.face(run.font);
+  for (const wchar_t c : run.text) {
+    const TextOutlines::Glyph& glyph = face.glyph(c);
+    m_letters.draw(height < kCoarseLetter ? glyph.coarse : glyph.fine, place);
+    place.origin += place.along * glyph.advance;
+  }
+  return true;
 }
 
 } // namespace desktop

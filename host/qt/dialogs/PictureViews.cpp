@@ -87,8 +87,10 @@ class PreviewView : public ControlView {
     const double units = std::max(width / place.width(), height / place.height());
     const ViewMap map{
         place.size(), {m_scene.box.minX + width / 2, m_scene.box.minY + height / 2}, units > 0 ? units : 1};
-    painter.translate(place.topLeft());
-    ScenePainter(painter, m_scene, map, LightCanvas().background, m_outlines).paint();
+    QImage image(place.size(), QImage::Format_RGB32);
+    image.fill(LightCanvas().background);
+    ScenePainter(image, image.rect(), map, LightCanvas().background, m_outlines).paint(m_scene);
+    painter.drawImage(place.topLeft(), image);
   }
 
   CDrawingPreview& m_preview;

@@ -1,0 +1,53 @@
+// Lines one pixel wide, drawn straight into the pixels of an image. Drawings are mostly such lines, and
+// QPainter takes ten times as long for them; everything else is left to it.
+#pragma once
+
+#include "host/ge/Box2d.h"
+
+#include <QColor>
+#include <QRect>
+
+#include <cstddef>
+#include <cstdint>
+
+class QImage;
+
+namespace desktop {
+
+class ThinLines {
+ public:
+  // Draws within the area only. The image has the format RGB32, is shared with nobody, and outlives this.
+  ThinLines(QImage& image, const QRect& area);
+  void setColor(const QColor& color);
+  // Coordinates are pixels, y down; a pixel is the square between two integers. A smooth line shades the
+  // pixels beside it; one that isn't is for lines along the axes, which are sharp without. One without length
+  // is a dot.
+  void line(const AcGePoint2d& from, const AcGePoint2d& to, bool smooth);
+  void dot(const AcGePoint2d& at);
+  // The part of a line near the area, as shares of its length; false when there is none.
+  bool cut(const AcGePoint2d& from, const AcGePoint2d& to, double& begin, double& end) const;
+  // What lies in the box may be seen.
+  bool mayShow(const ge::Box2d& box) const {
+    return box.maxX >= m_x.begin - 1 && box.minX <= m_x.end + 1 && box.maxY >= m_y.begin - 1 &&
+           box.minY <= m_y.end + 1;
+  }
+
+ private:
+  // A direction in the image: the distance of pixels and the bounds of the area.
+  struct Axis {
+    std::ptrdiff_t stride;
+    int begin;
+    int end;
+  };
+  void shade(const Axis& along, const Axis& across, double a0, double c0, double a1, double c1);
+  void shadeOne(const Axis& along, const Axis& across, int a, double c, double part);
+  void sharp(const Axis& along, const Axis& across, double a0, double a1, double c);
+
+  std::uint32_t* m_pixels;
+  Axis m_x;
+  Axis m_y;
+  std::uint32_t m_color = 0;
+  unsigned m_alpha = 256; // of 256
+};
+
+} // namespace desktop
