@@ -5,6 +5,7 @@
 #include "host/ed/EdSession.h"
 #include "host/ed/EntitySearch.h"
 #include "host/ed/SystemVariables.h"
+#include "host/ed/ViewState.h"
 #include "host/qt/CommandFeed.h"
 
 #include <QMouseEvent>
@@ -20,7 +21,7 @@ constexpr double kSnapPixels = 11;
 constexpr double kDragPixels = 4;     // less is a click
 constexpr double kWheelFactor = 1.25; // for one notch
 constexpr double kNotch = 120;
-constexpr std::chrono::milliseconds kSlice(12); // of painting between two looks at what the user does
+constexpr std::chrono::milliseconds kSlice(8); // of painting between two looks at what the user does
 
 const EdPromptState& prompt() {
   return EdSession::instance().prompts().current();
@@ -80,7 +81,12 @@ double Canvas::pickAperture() const {
 }
 
 void Canvas::zoomAll() {
-  if (m_picture.document()) ViewControl::showAll(*m_picture.document());
+  if (!m_picture.document()) return;
+  const ge::Box2d drawn = m_picture.box();
+  if (!drawn.IsEmpty())
+    ed::SetView(*m_picture.document(), ed::ViewOf(*m_picture.document(), drawn));
+  else
+    ViewControl::showAll(*m_picture.document());
 }
 
 AcGePoint3d Canvas::worldAt(const QPointF& at) const {

@@ -19,7 +19,7 @@ namespace {
 
 constexpr double kSnapMark = 6; // pixels to each side
 // Of a frame that painting may take, so that 30 of them fit into a second.
-constexpr std::chrono::milliseconds kFrame(18);
+constexpr std::chrono::milliseconds kFrame(12);
 constexpr std::size_t kMostHighlighted = 5000;
 
 } // namespace

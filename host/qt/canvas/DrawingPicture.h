@@ -27,6 +27,7 @@ class DrawingPicture {
   // The picture comes in pieces, which are painted in their order.
   std::size_t pageCount() const { return m_scene.pageCount(); }
   const scene::Scene& page(std::size_t index) const { return m_scene.page(index); }
+  ge::Box2d box() const { return m_scene.box(); }
   // Those whose box overlaps this one, which may be more than what is there.
   std::vector<AcDbObjectId> entitiesNear(const ge::Box2d& box) const;
   // Entities that are left out.
