@@ -1,6 +1,7 @@
 #include "host/db/AcDbCurves.h"
 #include "host/ed/LongTask.h"
 #include "host/qt/window/CommandTitles.h"
+#include "host/qt/window/HostMenus.h"
 #include "host/qt/window/PromptMenu.h"
 #include "host/qt/window/TaskBar.h"
 #include "tests/host/qt/Desktop.h"
@@ -38,6 +39,13 @@ TEST_F(Window, HasATabForEachDrawing) {
          EXPECT_EQ(2, window->tabs().count());
          EXPECT_EQ(1, window->tabs().currentIndex());
        }});
+}
+
+TEST_F(Window, HasOnlyCommandsInItsMenusThatTheHostHas) {
+  for (const desktop::HostMenuRow& row : desktop::HostMenus()) {
+    const bool isThere = !row.command || acedCommandStack()->lookupCmd(row.command);
+    EXPECT_TRUE(isThere) << CString(row.command).ToUtf8();
+  }
 }
 
 TEST_F(Window, ChangesTheDrawingByItsTabAndCancelsWhatRuns) {
