@@ -8,11 +8,13 @@
 #include "host/qt/QtText.h"
 #include "host/qt/dialogs/ColourGrid.h"
 #include "host/qt/dialogs/DesktopDialogs.h"
+#include "host/qt/dialogs/MessageBoxes.h"
 
 #include <QBoxLayout>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLabel>
 #include <QListWidget>
 #include <QMainWindow>
@@ -53,6 +55,23 @@ std::optional<int> ChooseFrom(QWidget* parent, const QString& title, const QStri
   if (!Accepted(parent, title, list, connect) || chosen < 0) return std::nullopt;
   return chosen;
 }
+
+// Tells in the program's own words that a file to open is not there.
+class FileDialog : public QFileDialog {
+ public:
+  using QFileDialog::QFileDialog;
+
+ protected:
+  void accept() override {
+    for (const QString& file : selectedFiles())
+      if (fileMode() == ExistingFile && !QFileInfo::exists(file)) {
+        const CString text = L"找不到文件“" + FromQt(file) + L"”。";
+        ShowDialogBox(this, MakeMessageBox(text, FromQt(windowTitle()), MB_OK | MB_ICONEXCLAMATION));
+        return;
+      }
+    QFileDialog::accept();
+  }
+};
 
 } // namespace
 
@@ -131,7 +150,7 @@ std::optional<int> DesktopDialogs::ChooseLineWeight(int start) {
 std::optional<CString> DesktopDialogs::ChooseFile(const UiFileQuestion& question) {
   QStringList patterns;
   for (const CString& pattern : question.patterns) patterns.append(ToQt(pattern));
-  QFileDialog dialog(parent(), Shown(question.title));
+  FileDialog dialog(parent(), Shown(question.title));
   dialog.setObjectName(QStringLiteral("fileDialog"));
   dialog.setOption(QFileDialog::DontUseNativeDialog);
   dialog.setAcceptMode(question.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);

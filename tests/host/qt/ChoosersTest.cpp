@@ -2,42 +2,15 @@
 #include "host/db/AcDbLinetypeTable.h"
 #include "host/db/AcDbObjectPointer.h"
 #include "host/qt/dialogs/ColourGrid.h"
-#include "tests/host/qt/Desktop.h"
+#include "tests/host/qt/DialogClicks.h"
 
-#include <QDialogButtonBox>
 #include <QFile>
-#include <QFileDialog>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPushButton>
+#include <QMessageBox>
 
 namespace {
 
-class Choosers : public Desktop {
+class Choosers : public DialogClicks {
  protected:
-  // Calls the chooser, and does the steps while it stands open; then it is given up where it still stands.
-  template <class Choose> auto choose(Choose call, std::vector<std::function<void()>> steps) {
-    std::size_t next = 0;
-    bool busy = false;
-    QTimer timer;
-    QObject::connect(&timer, &QTimer::timeout, [&] {
-      if (busy || !top()) return;
-      busy = true;
-      if (next < steps.size())
-        steps[next++]();
-      else
-        QTest::keyClick(top(), Qt::Key_Escape);
-      busy = false;
-    });
-    timer.start(0);
-    return call();
-  }
-  static QWidget* top() { return QApplication::activeModalWidget(); }
-  static void press(const char* text) {
-    for (auto* button : top()->findChildren<QPushButton*>())
-      if (button->text() == QString::fromUtf8(text)) return QTest::mouseClick(button, Qt::LeftButton);
-    ADD_FAILURE() << "no button " << text;
-  }
   static desktop::ColourGrid& grid() {
     return *static_cast<desktop::ColourGrid*>(top()->findChild<QWidget*>(QStringLiteral("colourGrid")));
   }
@@ -45,23 +18,17 @@ class Choosers : public Desktop {
     QTest::mouseClick(&grid(), Qt::LeftButton, {}, grid().place(index).center());
   }
   static QListWidget& list() { return *top()->findChild<QListWidget*>(); }
-  static void clickEntry(const QString& text) {
-    const auto found = list().findItems(text, Qt::MatchExactly);
-    ASSERT_EQ(found.size(), 1) << text.toStdString();
-    list().scrollToItem(found[0]);
-    QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, list().visualItemRect(found[0]).center());
+  std::optional<int> colour(int start, bool special, Steps steps) {
+    return during([&] { return dialogs->ChooseColour(start, special); }, std::move(steps));
   }
-  std::optional<int> colour(int start, bool special, std::vector<std::function<void()>> steps) {
-    return choose([&] { return dialogs->ChooseColour(start, special); }, std::move(steps));
+  std::optional<int> weight(int start, Steps steps) {
+    return during([&] { return dialogs->ChooseLineWeight(start); }, std::move(steps));
   }
-  std::optional<int> weight(int start, std::vector<std::function<void()>> steps) {
-    return choose([&] { return dialogs->ChooseLineWeight(start); }, std::move(steps));
+  std::optional<CString> linetype(const wchar_t* start, Steps steps) {
+    return during([&] { return dialogs->ChooseLinetype(start); }, std::move(steps));
   }
-  std::optional<CString> linetype(const wchar_t* start, std::vector<std::function<void()>> steps) {
-    return choose([&] { return dialogs->ChooseLinetype(start); }, std::move(steps));
-  }
-  std::optional<CString> file(const UiFileQuestion& question, std::vector<std::function<void()>> steps) {
-    return choose([&] { return dialogs->ChooseFile(question); }, std::move(steps));
+  std::optional<CString> file(const UiFileQuestion& question, Steps steps) {
+    return during([&] { return dialogs->ChooseFile(question); }, std::move(steps));
   }
   // Types the name of a file.
   static std::function<void()> name(const char* text) {
@@ -84,7 +51,7 @@ class Choosers : public Desktop {
 
 TEST_F(Choosers, AColourIsClicked) {
   for (const int index : {1, 9, 10, 137, 249, 250, 255})
-    EXPECT_EQ(colour(7, true, {[&] { clickColour(index); }, [&] { press("确定"); }}), index);
+    EXPECT_EQ(colour(7, true, {[&] { clickColour(index); }, [&] { pressText("确定"); }}), index);
 }
 
 TEST_F(Choosers, AColourIsFoundByArrowKeys) {
@@ -106,32 +73,32 @@ TEST_F(Choosers, ADoubleClickTakesAColour) {
 }
 
 TEST_F(Choosers, AColourCanFollowLayerOrBlockWhereThatIsAllowed) {
-  EXPECT_EQ(colour(7, true, {[&] { press("ByLayer（随层）"); }, [&] { press("确定"); }}),
+  EXPECT_EQ(colour(7, true, {[&] { pressText("ByLayer（随层）"); }, [&] { pressText("确定"); }}),
             UiFrontEnd::kColourByLayer);
-  EXPECT_EQ(colour(7, true, {[&] { press("ByBlock（随块）"); }, [&] { press("确定"); }}),
+  EXPECT_EQ(colour(7, true, {[&] { pressText("ByBlock（随块）"); }, [&] { pressText("确定"); }}),
             UiFrontEnd::kColourByBlock);
   std::size_t buttons = 0;
   EXPECT_EQ(colour(5, false,
                    {[&] { buttons = static_cast<std::size_t>(top()->findChildren<QPushButton*>().size()); },
-                    [&] { press("确定"); }}),
+                    [&] { pressText("确定"); }}),
             5);
   EXPECT_EQ(buttons, 2u) << "accept and give up";
-  EXPECT_EQ(colour(UiFrontEnd::kColourByLayer, false, {[&] { press("确定"); }}), std::nullopt)
+  EXPECT_EQ(colour(UiFrontEnd::kColourByLayer, false, {[&] { pressText("确定"); }}), std::nullopt)
       << "no colour was chosen";
 }
 
 TEST_F(Choosers, ClicksBesideTheColoursChooseNothing) {
   EXPECT_EQ(colour(4, true,
                    {[&] { QTest::mouseClick(&grid(), Qt::LeftButton, {}, QPoint(grid().width() - 3, 8)); },
-                    [&] { press("确定"); }}),
+                    [&] { pressText("确定"); }}),
             4);
 }
 
 TEST_F(Choosers, AreGivenUp) {
-  EXPECT_EQ(colour(7, true, {[&] { clickColour(2); }, [&] { press("取消"); }}), std::nullopt);
+  EXPECT_EQ(colour(7, true, {[&] { clickColour(2); }, [&] { pressText("取消"); }}), std::nullopt);
   EXPECT_EQ(colour(7, true, {[&] { clickColour(2); }}), std::nullopt) << "Escape";
   EXPECT_EQ(colour(7, true, {[&] { top()->close(); }}), std::nullopt);
-  EXPECT_EQ(linetype(L"Continuous", {[&] { press("取消"); }}), std::nullopt);
+  EXPECT_EQ(linetype(L"Continuous", {[&] { pressText("取消"); }}), std::nullopt);
   EXPECT_EQ(weight(25, {}), std::nullopt);
   EXPECT_EQ(file({L"打开", {}, {}, {}, false}, {}), std::nullopt);
 }
@@ -148,7 +115,7 @@ TEST_F(Choosers, ALinetypeIsOneOfTheDrawing) {
                                      shown.append(list().item(i)->text());
                                    start = list().currentRow();
                                  },
-                                 [&] { clickEntry(QStringLiteral("点划线")); }, [&] { press("确定"); }}),
+                                 [&] { clickEntry(list(), "点划线"); }, [&] { pressText("确定"); }}),
             CString(L"点划线"));
   EXPECT_EQ(shown.join(QLatin1Char(' ')).toStdString(), "ByBlock ByLayer Continuous 点划线 DASHED");
   EXPECT_EQ(start, 4) << "whatever the case of the letters";
@@ -168,8 +135,8 @@ TEST_F(Choosers, ALinetypeIsTakenByKeysAndByADoubleClick) {
 }
 
 TEST_F(Choosers, NothingIsTakenWhereNothingIsChosen) {
-  EXPECT_EQ(linetype(L"没有", {[&] { press("确定"); }}), std::nullopt);
-  EXPECT_EQ(weight(24, {[&] { press("确定"); }}), std::nullopt) << "no weight there is";
+  EXPECT_EQ(linetype(L"没有", {[&] { pressText("确定"); }}), std::nullopt);
+  EXPECT_EQ(weight(24, {[&] { pressText("确定"); }}), std::nullopt) << "no weight there is";
 }
 
 TEST_F(Choosers, WithoutADrawingThereAreNoLinetypes) {
@@ -179,13 +146,13 @@ TEST_F(Choosers, WithoutADrawingThereAreNoLinetypes) {
 
 TEST_F(Choosers, ALineWeightIsClicked) {
   QString start;
-  EXPECT_EQ(weight(25, {[&] { start = list().currentItem()->text(); },
-                        [&] { clickEntry(QStringLiteral("2.11 mm")); }, [&] { press("确定"); }}),
+  EXPECT_EQ(weight(25, {[&] { start = list().currentItem()->text(); }, [&] { clickEntry(list(), "2.11 mm"); },
+                        [&] { pressText("确定"); }}),
             211);
   EXPECT_EQ(start, QStringLiteral("0.25 mm"));
-  EXPECT_EQ(weight(25, {[&] { clickEntry(QStringLiteral("ByLayer（随层）")); }, [&] { press("确定"); }}),
+  EXPECT_EQ(weight(25, {[&] { clickEntry(list(), "ByLayer（随层）"); }, [&] { pressText("确定"); }}),
             UiFrontEnd::kWeightByLayer);
-  EXPECT_EQ(weight(25, {[&] { clickEntry(QStringLiteral("默认")); }, [&] { press("确定"); }}),
+  EXPECT_EQ(weight(25, {[&] { clickEntry(list(), "默认"); }, [&] { pressText("确定"); }}),
             UiFrontEnd::kWeightDefault);
 }
 
@@ -195,12 +162,25 @@ TEST_F(Choosers, AFileIsNamed) {
   const QString path = folder.filePath(QStringLiteral("图 1.dxf"));
   ASSERT_TRUE(QFile(path).open(QIODevice::WriteOnly));
   UiFileQuestion question{L"打开", desktop::FromQt(folder.path()), {}, {L"*.dxf"}, false};
-  EXPECT_EQ(file(question, {name("图 1.dxf"), [&] { press("打开"); }}), desktop::FromQt(path));
+  EXPECT_EQ(file(question, {name("图 1.dxf"), [&] { pressText("打开"); }}), desktop::FromQt(path));
   question.save = true;
-  EXPECT_EQ(file(question, {name("新.dxf"), [&] { press("保存"); }}),
+  EXPECT_EQ(file(question, {name("新.dxf"), [&] { pressText("保存"); }}),
             desktop::FromQt(folder.filePath(QStringLiteral("新.dxf"))));
-  EXPECT_EQ(file(question, {name("图 1.dxf"), [&] { press("保存"); }}), desktop::FromQt(path))
+  EXPECT_EQ(file(question, {name("图 1.dxf"), [&] { pressText("保存"); }}), desktop::FromQt(path))
       << "whoever writes it asks about replacing it";
+}
+
+TEST_F(Choosers, AFileToOpenMustBeThere) {
+  const UiFileQuestion question{L"打开", desktop::FromQt(folder.path()), {}, {L"*.dxf"}, false};
+  QString told;
+  EXPECT_EQ(file(question,
+                 {name("没有.dxf"), [&] { QTest::keyClick(top()->findChild<QLineEdit*>(), Qt::Key_Return); },
+                  [&] {
+                    if (auto* box = dynamic_cast<QMessageBox*>(top())) told = box->text();
+                    top()->close();
+                  }}),
+            std::nullopt);
+  EXPECT_TRUE(told.contains(QStringLiteral("找不到文件"))) << told.toStdString();
 }
 
 } // namespace

@@ -1,14 +1,10 @@
-// A dialog in the window, and a user who clicks and types in it step by step.
+// A dialog with every kind of control in the window, and a user who clicks and types in it step by step.
 #pragma once
 
-#include "tests/host/qt/Desktop.h"
+#include "tests/host/qt/DialogClicks.h"
 #include "tests/host/qt/EveryKind.h"
 
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTableView>
-
-class DialogView : public Desktop {
+class DialogView : public DialogClicks {
  protected:
   EveryKind dialog;
 
@@ -29,18 +25,5 @@ class DialogView : public Desktop {
     timer.start(0);
     result = dialog.DoModal();
   }
-  static QWidget* top() { return QApplication::activeModalWidget(); }
-  template <class Widget> static Widget& find(const char* caption) {
-    auto* widget = top()->findChild<Widget*>(QString::fromUtf8(caption));
-    if (!widget) throw std::runtime_error(std::string("no widget ") + caption);
-    return *widget;
-  }
-  static void press(const char* caption) { QTest::mouseClick(&find<QPushButton>(caption), Qt::LeftButton); }
-  static void clickCell(const char* caption, int row, int column) {
-    auto& table = find<QTableView>(caption);
-    QTest::mouseClick(table.viewport(), Qt::LeftButton, {},
-                      table.visualRect(table.model()->index(row, column)).center());
-  }
-  static QWidget& editor() { return find<QWidget>("cellEditor"); }
   int result = 0;
 };
