@@ -45,6 +45,21 @@ class CrossingsFixture : public EditorFixture {
     ZPKwCl(arcOuch, kRadius).AddKw(array(ids));
   }
 
+  // An insertion of a new block with the parts.
+  AcDbObjectId insert(const wchar_t* name, std::initializer_list<AcDbEntity*> parts, const AcGePoint3d& at) {
+    AcDbObjectId block;
+    AcDbObjectPointer<AcDbBlockTable> blocks(database().blockTableId(), AcDb::kForWrite);
+    auto* record = new AcDbBlockTableRecord;
+    record->setName(name);
+    EXPECT_EQ(Acad::eOk, blocks->add(block, record));
+    for (auto* part : parts) {
+      EXPECT_EQ(Acad::eOk, record->appendAcDbEntity(part));
+      part->close();
+    }
+    record->close();
+    return add(new AcDbBlockReference(at, block));
+  }
+
   // What is in the current space, in its order.
   template <typename Entity> std::vector<AcDbObjectId> all() {
     std::vector<AcDbObjectId> found;

@@ -19,20 +19,6 @@ class OldSymbols : public CrossingsFixture {
     for (const auto& id : all<AcDbCurve>()) CZPMainPipe(id).SetElevation(0);
     bends.AddKw(ids);
   }
-  static AcDbObjectId insert(AcDbDatabase& drawing, std::initializer_list<AcDbEntity*> parts,
-                             const AcGePoint3d& at) {
-    AcDbObjectId block;
-    AcDbObjectPointer<AcDbBlockTable> blocks(drawing.blockTableId(), AcDb::kForWrite);
-    auto* record = new AcDbBlockTableRecord;
-    record->setName(L"*U");
-    EXPECT_EQ(Acad::eOk, blocks->add(block, record));
-    for (auto* part : parts) {
-      EXPECT_EQ(Acad::eOk, record->appendAcDbEntity(part));
-      part->close();
-    }
-    record->close();
-    return add(new AcDbBlockReference(at, block));
-  }
 };
 
 TEST_F(OldSymbols, GoAndTheirPipesRunToTheJointAgainBeforeNewOnesAreMade) {
@@ -150,7 +136,7 @@ TEST_F(OldSymbols, ThatShowNothingAreErasedAndTheirPipesStayCut) {
 }
 
 TEST_F(OldSymbols, ThatHoldSomethingElseAreErasedAlone) {
-  const auto odd = insert(database(), {new AcDbLine({0, 0, 0}, {50, 0, 0})}, {0, 0, 0});
+  const auto odd = insert(L"*U", {new AcDbLine({0, 0, 0}, {50, 0, 0})}, {0, 0, 0});
   const auto beside = pipe({50, 0, 0}, {500, 0, 0}, 1.0);
   runOverAll();
   EXPECT_TRUE(odd.isErased());
@@ -159,7 +145,7 @@ TEST_F(OldSymbols, ThatHoldSomethingElseAreErasedAlone) {
 
 TEST_F(OldSymbols, GoByTheirFirstPart) {
   const auto odd =
-      insert(database(), {new AcDbCircle({0, 0, 0}, {0, 0, 1}, 50), new AcDbCircle({0, 0, 0}, {0, 0, 1}, 80)},
+      insert(L"*U", {new AcDbCircle({0, 0, 0}, {0, 0, 1}, 50), new AcDbCircle({0, 0, 0}, {0, 0, 1}, 80)},
              {100, 0, 0});
   const auto first = pipe({150, 0, 0}, {500, 0, 0}, 1.0);
   const auto second = pipe({100, 80, 0}, {100, 500, 0}, 1.0);
@@ -183,7 +169,7 @@ TEST_F(OldSymbols, OnALockedLayerStay) {
 }
 
 TEST_F(OldSymbols, OfAScaledInsertionHaveTheirCircleAsItIsDrawn) {
-  const auto odd = insert(database(), {new AcDbCircle({0, 0, 0}, {0, 0, 1}, 10)}, {0, 0, 0});
+  const auto odd = insert(L"*U", {new AcDbCircle({0, 0, 0}, {0, 0, 1}, 10)}, {0, 0, 0});
   AcDbObjectPointer<AcDbBlockReference>(odd, AcDb::kForWrite)->setScaleFactors({5, 5, 5});
   const auto cut = pipe({50, 0, 0}, {500, 0, 0}, 1.0);
   runOverAll();

@@ -108,15 +108,7 @@ TEST_F(CrossingSelection, ALayerLimitDoesNotHideAnOldSymbolOfAnotherLayer) {
 
 TEST_F(CrossingSelection, ABlockReferenceThatIsNoSymbolCantBeSelected) {
   corner({0, 0, 0}, L"0");
-  AcDbObjectId block;
-  {
-    AcDbObjectPointer<AcDbBlockTable> blocks(database().blockTableId(), AcDb::kForWrite);
-    auto* record = new AcDbBlockTableRecord;
-    record->setName(L"阀门");
-    ASSERT_EQ(Acad::eOk, blocks->add(block, record));
-    record->close();
-  }
-  const auto valve = add(new AcDbBlockReference({0, 0, 0}, block));
+  const auto valve = insert(L"阀门", {}, {0, 0, 0});
   go({L"all", L""});
   EXPECT_FALSE(valve.isErased());
 }
