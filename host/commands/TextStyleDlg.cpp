@@ -3,6 +3,7 @@
 #include "host/commands/TextStyles.h"
 #include "host/db/AcDbObjectPointer.h"
 #include "host/db/AcDbTextStyleTable.h"
+#include "host/ed/EdLineParser.h"
 
 namespace commands {
 namespace {
@@ -69,7 +70,7 @@ void TextStyleDlg::AddStyle() {
     const CString why =
         status == Acad::eDuplicateRecordName ? L"文字样式“%s”已经存在。" : L"“%s”不能作为样式名。";
     CString text;
-    text.Format(why, name);
+    text.Format(why, ed::Excerpt(name));
     MessageBox(text, kCaption, MB_OK | MB_ICONINFORMATION);
     m_name.SetFocus();
     return;

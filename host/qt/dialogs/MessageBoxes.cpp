@@ -20,12 +20,19 @@ QString WithKey(const CString& caption) {
   return text;
 }
 
+// Names in messages may be of any length; a box must fit the screen.
+CString Shortened(const CString& text) {
+  constexpr int most = 800; // characters
+  if (text.GetLength() <= most) return text;
+  return text.Left(most / 2) + L" … " + text.Right(most / 2);
+}
+
 // The index of the button pressed; -1 where the box was closed and no button stands for that.
 int Show(QWidget* parent, const CString& caption, const CString& text, QMessageBox::Icon icon,
          const std::vector<CString>& captions, std::size_t defaultButton, int escape) {
   QMessageBox box(icon, Shown(caption), QString(), QMessageBox::NoButton, parent);
   box.setTextFormat(Qt::PlainText);
-  box.setText(Shown(text));
+  box.setText(Shown(Shortened(text)));
   if (icon != QMessageBox::NoIcon) box.setIconPixmap(MessageIcon(icon, box.devicePixelRatioF()));
   std::vector<QAbstractButton*> buttons;
   for (const CString& button : captions) {

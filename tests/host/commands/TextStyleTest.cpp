@@ -91,6 +91,66 @@ TEST_F(TextStyles, AreOneStepOfUndo) {
   EXPECT_EQ(commands::TextStyleNames().size(), 1u);
 }
 
+TEST_F(TextStyles, OfANameBeyondMeasureAreRefusedInAShortMessage) {
+  In([&](CDialog& dialog) {
+    Add(dialog, std::wstring(100000, L'长').c_str());
+    const CString told = windows.takeBox();
+    EXPECT_GE(told.Find(L"不能作为样式名"), 0);
+    EXPECT_LT(told.GetLength(), 100);
+    Add(dialog, L"\U0001F600 '单' “双”");
+  });
+  EXPECT_EQ(commands::TextStyleNames().size(), 2u);
+}
+
+TEST_F(TextStyles, WithAwkwardFontsAreSavedAndReadBack) {
+  const CString awkward = L"a\nb\"c\\U+0041^J\U0001F600";
+  In([&](CDialog& dialog) {
+    EXPECT_TRUE(Find<CEdit>(dialog, L"字体文件").UserType(awkward));
+    EXPECT_TRUE(Find<CEdit>(dialog, L"大字体文件").UserType(CString(std::wstring(2000, L'字'))));
+    for (const wchar_t* caption : {L"固定高度（0 为不固定）", L"宽度比例"}) {
+      EXPECT_FALSE(Find<CNumberEdit>(dialog, caption).UserType(L"abc"));
+      EXPECT_FALSE(Find<CNumberEdit>(dialog, caption).UserType(L"1\n2"));
+    }
+    EXPECT_TRUE(Find<CButton>(dialog, L"应用").UserClick());
+    EXPECT_TRUE(windows.boxes.empty());
+  });
+  run(L"SAVEAS", {file("fonts.dxf")});
+  run(L"OPEN", {file("fonts.dxf")});
+  const AcDbObjectPointer<AcDbTextStyleTableRecord> style(commands::TextStyleByName(L"Standard"),
+                                                          AcDb::kForRead);
+  ASSERT_TRUE(style);
+  EXPECT_EQ(style->fileName(), awkward);
+  EXPECT_EQ(style->bigFontFileName().GetLength(), 2000);
+}
+
+TEST_F(TextStyles, OfADrawingThatVanishedFromTheDiskAreSavedAnew) {
+  run(L"SAVEAS", {file("gone.dxf")});
+  In([&](CDialog& dialog) {
+    std::filesystem::remove(file("gone.dxf").ToUtf8());
+    Add(dialog, L"仿宋");
+  });
+  EXPECT_FALSE(refused()) << reason().ToUtf8();
+  run(L"SAVE");
+  run(L"OPEN", {file("gone.dxf")});
+  EXPECT_FALSE(refused()) << reason().ToUtf8();
+  EXPECT_FALSE(commands::TextStyleByName(L"仿宋").isNull());
+}
+
+TEST_F(TextStyles, OfADrawingWhoseFolderVanishedStayUnsavedAndTheUserIsTold) {
+  const CString folder = file("folder");
+  std::filesystem::create_directory(folder.ToUtf8());
+  run(L"SAVEAS", {folder + L"/gone.dxf"});
+  In([&](CDialog& dialog) {
+    std::filesystem::remove_all(folder.ToUtf8());
+    Add(dialog, L"仿宋");
+  });
+  run(L"SAVE");
+  EXPECT_GE((frontEnd.output + reason()).Find(L"gone.dxf"), 0) << "the user is told";
+  EXPECT_FALSE(commands::TextStyleByName(L"仿宋").isNull()) << "nothing is lost";
+  run(L"SAVEAS", {file("rescued.dxf")});
+  EXPECT_TRUE(std::filesystem::exists(file("rescued.dxf").ToUtf8()));
+}
+
 TEST_F(TextStyles, StandRandomEvents) {
   UiRobot robot(7);
   In([&](CDialog& dialog) {

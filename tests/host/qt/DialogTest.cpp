@@ -276,6 +276,25 @@ TEST_F(DialogView, AnswersAMessageBox) {
   EXPECT_EQ(IDNO, answer);
 }
 
+TEST_F(DialogView, ShortensAMessageOfAnyLength) {
+  dialog.add.Clicked.Connect([&] {
+    dialog.MessageBox(L"【" + CString(std::wstring(100000, L'长')) + L"】已经存在", L"提示", MB_OK);
+  });
+  QSize size;
+  show({[&] {
+    QTimer::singleShot(20, [&] {
+      auto* box = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget());
+      ASSERT_TRUE(box);
+      size = box->size();
+      EXPECT_TRUE(box->text().endsWith(QStringLiteral("】已经存在")));
+      QTest::mouseClick(box->buttons().last(), Qt::LeftButton);
+    });
+    press("添加");
+  }});
+  EXPECT_LE(size.width(), 800);
+  EXPECT_LE(size.height(), 800);
+}
+
 class Bar : public CAcUiDockControlBar {
  public:
   UiLayout Layout() override { return ui::Column({ui::Item(press)}); }

@@ -186,14 +186,6 @@ class BadDuctInput : public DuctFixture {
     Dlg dialog(nullptr, nullptr);
     dialogtest::Run<Dlg>(frontEnd, dialog, test);
   }
-  CString Everything() const {
-    CString text = Names() + L" / " + Rects() + L" / " + Circles();
-    for (const CZPDuctMaterial* material : catalogue.m_arrMaterials)
-      for (const SZPDuctThickness& row : material->m_arrThickness)
-        for (const double number : {row.dbMin, row.dbMax, row.dbThickness})
-          text += L" " + ZP::ftoa(number, 9, true);
-    return text;
-  }
   UiFrontEndScript frontEnd;
   CZPDuctMaterial* steel = nullptr;
 };

@@ -78,14 +78,6 @@ INSTANTIATE_TEST_SUITE_P(Seeds, RandomPipeEvents, testing::Range(1u, 4u));
 
 class RandomDuctEvents : public DuctFixture, public testing::WithParamInterface<unsigned> {
  protected:
-  CString Everything() const {
-    CString text = Names() + L" / " + Rects() + L" / " + Circles();
-    for (const CZPDuctMaterial* material : catalogue.m_arrMaterials)
-      for (const SZPDuctThickness& row : material->m_arrThickness)
-        for (const double number : {row.dbMin, row.dbMax, row.dbThickness})
-          text += L" " + ZP::ftoa(number, 9, true);
-    return text;
-  }
   UiFrontEndScript frontEnd;
 };
 

@@ -73,6 +73,15 @@ class DuctFixture : public testing::Test {
   }
   CString Rects() const { return Sizes(catalogue.m_arrRectDiameters); }
   CString Circles() const { return Sizes(catalogue.m_arrCircleDiameters); }
+  // Names, sizes and wall thicknesses of the whole catalogue.
+  CString Everything() const {
+    CString text = Names() + L" / " + Rects() + L" / " + Circles();
+    for (const CZPDuctMaterial* material : catalogue.m_arrMaterials)
+      for (const SZPDuctThickness& row : material->m_arrThickness)
+        for (const double number : {row.dbMin, row.dbMax, row.dbThickness})
+          text += L" " + ZP::ftoa(number, 9, true);
+    return text;
+  }
 
   static bool IsLogged(const wchar_t* text) {
     for (const CString& message : afx::LoggedMessages())
