@@ -9,7 +9,7 @@ namespace {
 
 std::size_t endOfOwn(DxfTags tags) {
   std::size_t end = 0;
-  while (end < tags.size() && tags[end].code < 1000 && tags[end].code != 101) ++end;
+  while (end < tags.size() && tags[end].code != 101) ++end;
   return end;
 }
 
@@ -45,11 +45,12 @@ bool ReadCoordinate(const DxfTag& tag, int code, AcGePoint3d& point) {
   return true;
 }
 
-EntityTags::EntityTags(DxfRecord record) : m_record(std::move(record)) {
-  constexpr std::size_t kUsualTags = 48;
+EntityTags::EntityTags(const DxfRecord& record) : m_text(record.text()) {
+  constexpr std::size_t kUsualTags = 40;
+  constexpr int kExtendedData = 1000; // and above: often more than all the rest, and of no painter's concern
   m_all.reserve(kUsualTags);
-  DxfTagReader reader(m_record.text());
-  for (DxfTag tag; reader.next(tag);) m_all.push_back(tag);
+  DxfTagReader reader(m_text);
+  for (DxfTag tag; reader.next(tag) && tag.code < kExtendedData;) m_all.push_back(tag);
   const DxfTags inside = DxfTags(m_all).first(endOfOwn(m_all));
   m_own = inside.subspan(beginOfOwn(inside));
 }
@@ -115,7 +116,7 @@ const DxfTag* EntityTags::common(int code) const {
   bool inGroup = false;
   for (const DxfTag& tag : m_all) {
     if (tag.code == 102) inGroup = tag.value.starts_with("{");
-    if (tag.code >= 1000 || (tag.code == 100 && ++markers == 2)) break;
+    if (tag.code == 100 && ++markers == 2) break;
     if (tag.code == code && !inGroup) return &tag;
   }
   return nullptr;

@@ -1,4 +1,5 @@
 // The tags of one entity as painters read them: common properties in front and extended data behind left out.
+// They are views of the entity's record, which must stay as it is.
 #pragma once
 
 #include "host/afx/CString.h"
@@ -14,12 +15,12 @@ namespace scene {
 class EntityTags {
  public:
   EntityTags() = default;
-  // Keeps the record's text alive.
-  explicit EntityTags(DxfRecord record);
+  explicit EntityTags(const DxfRecord& record);
   EntityTags(EntityTags&&) = default;
   EntityTags& operator=(EntityTags&&) = default;
 
-  DxfTags all() const { return m_all; } // the whole record
+  // The whole record, extended data and all.
+  std::vector<DxfTag> all() const { return dxfTagsOf(m_text); }
   DxfTags own() const { return m_own; } // the entity's geometry
   auto begin() const { return m_own.begin(); }
   auto end() const { return m_own.end(); }
@@ -42,8 +43,8 @@ class EntityTags {
   const DxfTag* common(int code) const;
 
  private:
-  DxfRecord m_record;
-  std::vector<DxfTag> m_all;
+  std::string_view m_text;
+  std::vector<DxfTag> m_all; // up to the extended data
   DxfTags m_own;
 };
 

@@ -45,6 +45,11 @@ struct Path {
 
  private:
   void add(Verb verb, const AcGePoint2d& p) {
+    constexpr std::size_t kUsual = 16; // most paths are done with one piece of memory
+    if (points.capacity() == 0) {
+      points.reserve(kUsual);
+      verbs.reserve(kUsual);
+    }
     verbs.push_back(verb);
     points.push_back(p);
   }

@@ -94,7 +94,8 @@ void painters::MText(Pen& pen) {
   form.attachment = static_cast<int>(std::clamp<long long>(tags.integer(71, 1), 1, 9));
   form.lineSpacing = tags.real(44, 1);
   form.exactSpacing = tags.integer(73) == kExactly;
-  embeddedColumns(tags.all()).applyTo(form);
+  const auto all = tags.all();
+  embeddedColumns(all).applyTo(form);
   const CString styleName = tags.text(7);
   MTextPlace place;
   place.at = tags.point(10);
