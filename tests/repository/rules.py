@@ -52,7 +52,7 @@ PUBLIC_MARK = "ZP_EXPORT"
 
 # Library, the include names that betray it, and the folders that may name them.
 LIBRARIES = [
-    ("Qt", re.compile(r"Q[A-Z]\w*(/|$)|Qt\w*/|q[a-z0-9]+\.h$"), ["host/qt/", "tests/host/qt/"]),
+    ("Qt", re.compile(r"Q[A-Z]\w*(/|$)|Qt\w*/|q[a-z0-9]+\.h$"), ["host/qt/", "tests/host/qt/", "bench/canvas/"]),
     ("fmt", re.compile(r"fmt/"), ["host/afx/"]),
     ("iconv", re.compile(r"iconv\.h$"), ["host/afx/"]),
     ("simdjson", re.compile(r"simdjson"), ["plugin/base/", "bench/"]),

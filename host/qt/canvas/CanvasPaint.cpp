@@ -47,7 +47,9 @@ void Canvas::paintDrawing() {
 
 void Canvas::goOnPainting(std::chrono::microseconds time) {
   if (!m_painting) return;
-  if (!m_next.goOn(m_picture, time)) return m_goOn.start(0);
+  // Where nothing is to be seen yet the picture matters more than the mouse.
+  const bool hurry = m_shown.isEmpty() || time > std::chrono::seconds(1);
+  if (!m_next.goOn(m_picture, time, hurry)) return m_goOn.start(0);
   std::swap(m_shown, m_next);
   m_painting = false;
   update();

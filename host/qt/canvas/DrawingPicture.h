@@ -33,6 +33,9 @@ class DrawingPicture {
   // Entities that are left out.
   const std::unordered_set<AcDbObjectId>& hidden() const { return m_hidden; }
   TextOutlines& outlines() { return m_workers.front().outlines; }
+  // For each of so many threads its own.
+  std::size_t threads() const { return m_workers.size(); }
+  TextOutlines& outlines(std::size_t thread) { return m_workers[thread].outlines; }
 
  private:
   struct Worker {

@@ -6,15 +6,18 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <thread>
+#include <vector>
 
 namespace desktop {
 namespace {
 
 using Clock = std::chrono::steady_clock;
 
-// Pages that are painted whatever time they take: a small drawing is never seen half.
-constexpr std::size_t kAtOnce = 2;
-constexpr double kWhole = 0.02; // pixels that a shift by whole ones may be off
+// Pages that are painted one after the other, whatever time they take: a small drawing is never seen half.
+constexpr std::size_t kTogether = 2;
+constexpr std::size_t kInAHurry = 16; // by several threads
+constexpr double kWhole = 0.02;       // pixels that a shift by whole ones may be off
 
 } // namespace
 
@@ -49,13 +52,31 @@ void PaintedView::repaint(const ge::Box2d& box, DrawingPicture& picture) {
   paintArea(area & m_image.rect(), picture);
 }
 
-bool PaintedView::goOn(DrawingPicture& picture, std::chrono::microseconds time) {
+// Each thread paints a band of the window. They share the pixels and nothing else.
+void PaintedView::paintPages(std::size_t begin, std::size_t end, int bands, DrawingPicture& picture) {
+  const QRect all = m_image.rect();
+  uchar* const pixels = m_image.bits();
+  const auto paintBand = [&, this](int band) {
+    QImage image(pixels, all.width(), all.height(), m_image.bytesPerLine(), m_image.format());
+    const int top = all.height() * band / bands;
+    const QRect area(0, top, all.width(), all.height() * (band + 1) / bands - top);
+    ScenePainter painter(image, area, m_map, m_background, picture.outlines(static_cast<std::size_t>(band)));
+    for (std::size_t page = begin; page < end; ++page) painter.paint(picture.page(page), picture.hidden());
+  };
+  std::vector<std::jthread> threads;
+  for (int band = 1; band < bands; ++band) threads.emplace_back(paintBand, band);
+  paintBand(0);
+}
+
+bool PaintedView::goOn(DrawingPicture& picture, std::chrono::microseconds time, bool hurry) {
   if (m_complete) return true;
   const auto end = Clock::now() + time;
-  ScenePainter painter(m_image, m_image.rect(), m_map, m_background, picture.outlines());
   while (m_pages < picture.pageCount()) {
-    painter.paint(picture.page(m_pages++), picture.hidden());
-    if (m_pages >= kAtOnce && m_pages < picture.pageCount() && Clock::now() >= end) return false;
+    const std::size_t next = std::min(m_pages + (hurry ? kInAHurry : kTogether), picture.pageCount());
+    const bool worthThreads = hurry && next - m_pages > kTogether;
+    paintPages(m_pages, next, worthThreads ? static_cast<int>(picture.threads()) : 1, picture);
+    m_pages = next;
+    if (m_pages < picture.pageCount() && Clock::now() >= end) return false;
   }
   return m_complete = true;
 }

@@ -19,7 +19,8 @@ class PaintedView {
   void begin(const ViewMap& map, const QColor& background);
   // Paints on until all is there or the time is over; whether all is there. A small drawing is painted at
   // once.
-  bool goOn(DrawingPicture& picture, std::chrono::microseconds time);
+  // In a hurry all processors work on it, for more than a moment at a time.
+  bool goOn(DrawingPicture& picture, std::chrono::microseconds time, bool hurry = false);
   // Makes it the painting of another view that differs by whole pixels, and paints what comes in at the
   // borders as far as the rest is painted; false, and nothing has happened, for any other view.
   bool shiftTo(const ViewMap& map, DrawingPicture& picture);
@@ -36,6 +37,7 @@ class PaintedView {
 
  private:
   void paintArea(const QRect& area, DrawingPicture& picture);
+  void paintPages(std::size_t begin, std::size_t end, int bands, DrawingPicture& picture);
 
   QImage m_image;
   ViewMap m_map;

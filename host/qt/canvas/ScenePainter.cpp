@@ -75,7 +75,7 @@ void ScenePainter::paintPrimitive(const scene::Primitive& primitive) {
   case Kind::text:
     return text(m_scene->texts[primitive.text]);
   case Kind::point: {
-    const double size = scene::PointMarkSize(m_scene->pointSize, m_visible.maxY - m_visible.minY);
+    const double size = scene::PointMarkSize(m_scene->pointSize, m_map.size.height() * m_map.unitsPerPixel);
     const scene::Path mark =
         scene::PointMark(m_scene->pointMode, m_scene->points[primitive.firstPoint], size);
     if (!mark.isEmpty()) stroke(primitive, mark.view());
