@@ -1,0 +1,113 @@
+// A user without a plan at the widgets themselves: clicks anywhere, presses keys and types, in each dialog of
+// the plug-in and in whatever that opens. Nothing may break, and what the file holds afterwards is what the
+// catalogue holds.
+#include "plugin/base/NumberText.h"
+#include "plugin/frame/CZPSystemSettingsDlg.h"
+#include "plugin/graph/DrawingSettings.h"
+#include "plugin/pipes/CZPPipeMaterialManager.h"
+#include "tests/host/qt/PlugInDialogs.h"
+
+#include <random>
+
+namespace {
+
+constexpr int kEvents = 400;
+
+class RandomClicks : public PlugInDialogs, public testing::WithParamInterface<unsigned> {
+ protected:
+  int below(int limit) { return std::uniform_int_distribution<int>(0, limit - 1)(random); }
+
+  // One event at a widget that can be seen, in the window on top.
+  void act() {
+    if (auto* popup = QApplication::activePopupWidget()) popup->close();
+    QList<QWidget*> widgets;
+    for (auto* widget : top()->findChildren<QWidget*>())
+      if (widget->isVisible() && widget->isEnabled()) widgets.append(widget);
+    if (widgets.isEmpty()) return;
+    QWidget* widget = widgets[below(static_cast<int>(widgets.size()))];
+    const QPoint at(below(std::max(widget->width(), 1)), below(std::max(widget->height(), 1)));
+    static const Qt::Key keys[] = {Qt::Key_Return, Qt::Key_Tab,  Qt::Key_Backtab, Qt::Key_Up,
+                                   Qt::Key_Down,   Qt::Key_Left, Qt::Key_Right,   Qt::Key_F2,
+                                   Qt::Key_Delete, Qt::Key_Space};
+    static const char* const texts[] = {"25", "0", "-7", "abc", "甲", "1e400", "\"%s", "20"};
+    switch (below(5)) {
+    case 0:
+      return QTest::mouseDClick(widget, Qt::LeftButton, {}, at);
+    case 1:
+      return QTest::keyClick(widget, keys[below(static_cast<int>(std::size(keys)))]);
+    case 2:
+      return typeInto(*widget, texts[below(static_cast<int>(std::size(texts)))]);
+    default:
+      return QTest::mouseClick(widget, Qt::LeftButton, {}, at);
+    }
+  }
+  // Opens the dialog again as often as the events close it.
+  template <class Call> void play(Call call) {
+    while (done < kEvents) {
+      const Steps steps(static_cast<std::size_t>(kEvents - done), [this] {
+        ++done;
+        act();
+      });
+      during(call, steps);
+    }
+  }
+  std::mt19937 random{GetParam()};
+  int done = 0;
+};
+
+TEST_P(RandomClicks, KeepPipesAsTheyAreShown) {
+  auto& catalogue = *CZPPipeMaterialManager::GetInstance();
+  pipes::DestroyElements(catalogue.m_arrMaterials);
+  play([] { return ZP::ShowPipeMaterialDlg(nullptr); });
+  const auto names = [&] {
+    CString all;
+    for (const CZPPipeMaterial* material : catalogue.m_arrMaterials) {
+      all += L"[" + material->GetName() + L"]";
+      for (const SZPPipeDNData& row : material->m_arrDNData) all += ZP::ftoa(row.dbNominal, 6, true) + L" ";
+    }
+    return all;
+  };
+  const CString before = names();
+  pipes::DestroyElements(catalogue.m_arrMaterials);
+  catalogue.ReadData();
+  EXPECT_EQ(names(), before);
+  pipes::DestroyElements(catalogue.m_arrMaterials);
+}
+
+TEST_P(RandomClicks, KeepDuctsAsTheyAreShown) {
+  auto& catalogue = *CZPDuctMaterialManager::GetInstance();
+  const auto empty = [&] {
+    pipes::DestroyElements(catalogue.m_arrMaterials);
+    pipes::DestroyElements(catalogue.m_arrRectDiameters);
+    pipes::DestroyElements(catalogue.m_arrCircleDiameters);
+  };
+  const auto count = [&] {
+    return catalogue.m_arrMaterials.GetSize() * 1000000 + catalogue.m_arrRectDiameters.GetSize() * 1000 +
+           catalogue.m_arrCircleDiameters.GetSize();
+  };
+  empty();
+  play([] { return ZP::ShowDuctMaterialDlg(nullptr); });
+  const int before = count();
+  empty();
+  catalogue.ReadData();
+  EXPECT_EQ(count(), before);
+  empty();
+}
+
+TEST_P(RandomClicks, KeepVelocityLimitsUsable) {
+  auto& table = *CZPFlowVelocityMng::GetInstance();
+  pipes::DestroyElements(table.m_arrLimits);
+  play([] { return ZP::ShowFVMngDlg(nullptr); });
+  for (const CZPPipeLimit* limit : table.m_arrLimits) EXPECT_FALSE(limit->GetName().IsEmpty());
+  pipes::DestroyElements(table.m_arrLimits);
+}
+
+TEST_P(RandomClicks, KeepSettingsThatCanBe) {
+  play([] { return static_cast<int>(CZPSystemSettingsDlg(nullptr).DoModal()); });
+  EXPECT_GT(ZP::GetOutDwgScale(), 0);
+  EXPECT_GT(ZP::GetZwZg(), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, RandomClicks, testing::Range(1u, 4u));
+
+} // namespace
