@@ -1,4 +1,5 @@
-// An empty installation folder that the paths of the plug-in lead to while this lives; removed afterwards.
+// An empty installation folder that the paths of the plug-in lead to while this lives; removed afterwards,
+// and at the latest when the process ends, as some tests end it in their middle.
 #pragma once
 
 #include <cstdlib>
@@ -7,6 +8,7 @@
 #include <iterator>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include "host/afx/Paths.h"
 
@@ -16,12 +18,13 @@ class TempInstall {
     std::string pattern = (std::filesystem::temp_directory_path() / "zpinstall-XXXXXX").string();
     if (!mkdtemp(pattern.data())) throw std::runtime_error("no temporary folder");
     m_root = pattern;
+    static Remains remains; // outlives what is made later, such as a manager that saves at the end
+    remains.roots.push_back(m_root);
     afx::SetInstallRoot(CString::FromUtf8(pattern));
   }
   ~TempInstall() {
     afx::SetInstallRoot(m_before);
-    std::error_code ignored;
-    std::filesystem::remove_all(m_root, ignored);
+    Remove(m_root);
   }
   TempInstall(const TempInstall&) = delete;
   TempInstall& operator=(const TempInstall&) = delete;
@@ -42,6 +45,17 @@ class TempInstall {
   bool Has(const std::filesystem::path& relative) const { return std::filesystem::exists(m_root / relative); }
 
  private:
+  struct Remains {
+    std::vector<std::filesystem::path> roots;
+    ~Remains() {
+      for (const auto& root : roots) Remove(root);
+    }
+  };
+  static void Remove(const std::filesystem::path& root) {
+    std::error_code ignored;
+    std::filesystem::remove_all(root, ignored);
+  }
+
   std::filesystem::path m_root;
   CString m_before;
 };
