@@ -8,6 +8,7 @@
 #include "host/db/DxfDecodeContext.h"
 #include "host/db/DxfRecordEditor.h"
 #include "host/db/DxfText.h"
+#include "host/db/ExtendedData.h"
 #include "host/db/SameName.h"
 #include "host/db/resbuf.h"
 
@@ -210,7 +211,8 @@ resbuf* AcDbObject::xData(const wchar_t* application) const {
   std::vector<DxfTag> wanted;
   const std::string name = application ? dxf::encodeText(application) : std::string();
   bool take = false;
-  for (const DxfTag& tag : record().tags()) {
+  DxfTagReader reader(record().text());
+  for (DxfTag tag; reader.next(tag);) {
     if (tag.code < 1000) continue;
     if (tag.code == 1001) take = !application || dxf::sameName(dxf::trimBlanks(tag.value), name);
     if (take) wanted.push_back(tag);
@@ -228,9 +230,8 @@ Acad::ErrorStatus AcDbObject::setXData(const resbuf* chain) {
     AcDbSymbolTable* applications = database()->tableOf("APPID");
     if (!applications || !applications->has(application)) return Acad::eRegappIdNotFound;
   }
-  DxfRecordEditor editor(record(), !database() || database()->form().subclassMarkers());
-  editor.extendedData(dxf::encodeText(application), dxf::fromResbuf(chain->rbnext));
-  DxfRecord changed = editor.finish();
+  DxfRecord changed =
+      dxf::withExtendedData(record(), dxf::encodeText(application), dxf::fromResbuf(chain->rbnext));
   if (changed.text().size() > kMaxExtendedData && extendedDataSize(changed) > kMaxExtendedData &&
       extendedDataSize(changed) > extendedDataSize(m_record))
     return Acad::eXdataSizeExceeded;

@@ -283,21 +283,6 @@ void DxfRecordEditor::group(std::string_view name, const std::string& innerTags)
   type({});
 }
 
-void DxfRecordEditor::extendedData(std::string_view application, const std::string& tags) {
-  const std::string whole = tags.empty() ? std::string() : tag(1001, application) + tags;
-  for (std::size_t i = 0; i < m_items.size(); ++i) {
-    if (m_items[i].code != 1001 || !dxf::sameName(dxf::trimBlanks(m_items[i].value), application)) continue;
-    std::size_t end = i + 1;
-    while (end < m_items.size() && m_items[end].code >= 1000 && m_items[end].code != 1001) ++end;
-    m_items.erase(m_items.begin() + static_cast<std::ptrdiff_t>(i),
-                  m_items.begin() + static_cast<std::ptrdiff_t>(end));
-    if (!whole.empty())
-      m_items.insert(m_items.begin() + static_cast<std::ptrdiff_t>(i), {1001, whole, {}, {}});
-    return;
-  }
-  if (!whole.empty()) m_items.push_back({1001, whole, {}, {}});
-}
-
 void DxfRecordEditor::replaceData(const std::string& newTags) {
   std::size_t first = m_begin;
   if (first < m_items.size() && m_items[first].code == 280) ++first;

@@ -56,8 +56,6 @@ class DxfRecordEditor {
   void replaceRun(std::span<const int> codes, const std::string& newTags);
   // Replaces the 102 group of that name ("{ACAD_XDICTIONARY"), adds it, or removes it when inner is empty.
   void group(std::string_view name, const std::string& innerTags);
-  // Replaces the extended data of one application, appends it, or removes it when tags is empty.
-  void extendedData(std::string_view application, const std::string& tags);
 
   // Replaces everything from the scope's beginning, its 280 left out, up to the extended data: for objects
   // whose data are tags of any code.

@@ -21,6 +21,14 @@ void Grow(ge::Box2d& box, double by) {
   box.maxY += by;
 }
 
+// Whether the old box finds the curve as well as the new one: it is around it, and less than twice as large.
+// A pipe that is trimmed at a symbol loses so little that taking it out of the tree and putting it back is
+// not worth it.
+bool WillDo(const ge::Box2d& old, const ge::Box2d& now) {
+  const auto size = [](const ge::Box2d& box) { return box.maxX - box.minX + box.maxY - box.minY; };
+  return old.Contains(now) && size(old) < 2 * size(now);
+}
+
 // Once more the tolerance, for the rounding of an arc's extents.
 ge::Box2d BoxOf(const AcDbObjectId& id) {
   const auto curve = GeometryOf(id);
@@ -71,8 +79,10 @@ void PipeIndex::Append(const AcDbObjectId& id) {
 void PipeIndex::Refresh(const AcDbObjectId& id) {
   const std::size_t number = NumberOf(id);
   Pipe& pipe = m_pipes[number];
+  const ge::Box2d box = BoxOf(id);
+  if (WillDo(pipe.box, box)) return;
   m_boxes.remove({pipe.box, number});
-  pipe.box = BoxOf(id);
+  pipe.box = box;
   m_boxes.insert({pipe.box, number});
 }
 

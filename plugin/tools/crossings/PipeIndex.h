@@ -30,7 +30,7 @@ class PipeIndex {
 
   // The curve at the next position.
   void Append(const AcDbObjectId& id);
-  // The curve has changed.
+  // The curve has changed. Where it merely lost a little the tree stays as it is.
   void Refresh(const AcDbObjectId& id);
 
   // Positions whose curves may lie within the radius of the point as seen from above, ascending. None that

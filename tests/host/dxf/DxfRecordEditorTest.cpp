@@ -3,6 +3,7 @@
 #include "host/db/AcDbDictionary.h"
 #include "host/db/AcDbLine.h"
 #include "host/db/AcDbXrecord.h"
+#include "host/db/ExtendedData.h"
 #include "host/db/resbuf.h"
 #include "tests/host/dxf/DrawingFiles.h"
 
@@ -170,24 +171,29 @@ TEST(RecordEditor, ReplacesARunWhereItStood) {
   EXPECT_EQ(lines(editor.finish()), "0 LWPOLYLINE\n90 2\n10 7.0\n20 8.0\n210 0\n1001 X\n1010 5\n");
 }
 
-TEST(RecordEditor, ReplacesAppendsAndRemovesExtendedDataOfOneApplication) {
+TEST(ExtendedData, IsReplacedAppendedAndRemovedByItsApplication) {
   const DxfRecord base =
       record("0 LINE\n8 0\n1001 A\n1000 1\n1001 管\n1002 {\n1000 2\n1002 }\n1001 C\n1070 3");
-  DxfRecordEditor replacing(base, true);
-  replacing.extendedData("管", DxfRecordEditor::tag(1000, "two"));
-  EXPECT_EQ(lines(replacing.finish()), "0 LINE\n8 0\n1001 A\n1000 1\n1001 管\n1000 two\n1001 C\n1070 3\n");
-  DxfRecordEditor other(base, true);
-  other.extendedData("a", DxfRecordEditor::tag(1000, "one")); // case does not count
-  EXPECT_THAT(lines(other.finish()), testing::HasSubstr("1000 one\n1001 管\n"));
-  DxfRecordEditor appending(base, true);
-  appending.extendedData("D", DxfRecordEditor::tag(1071, "4"));
-  EXPECT_EQ(lines(appending.finish()), lines(base) + "1001 D\n1071 4\n");
-  DxfRecordEditor removing(base, true);
-  removing.extendedData("管", "");
-  EXPECT_EQ(lines(removing.finish()), "0 LINE\n8 0\n1001 A\n1000 1\n1001 C\n1070 3\n");
-  DxfRecordEditor nothing(base, true);
-  nothing.extendedData("missing", "");
-  EXPECT_EQ(nothing.finish().text(), base.text());
+  const std::string two = DxfRecordEditor::tag(1000, "two");
+  EXPECT_EQ(lines(dxf::withExtendedData(base, "管", two)),
+            "0 LINE\n8 0\n1001 A\n1000 1\n1001 管\n1000 two\n1001 C\n1070 3\n");
+  // Case does not count.
+  EXPECT_EQ(lines(dxf::withExtendedData(base, "a", two)),
+            "0 LINE\n8 0\n1001 a\n1000 two\n1001 管\n1002 {\n1000 2\n1002 }\n1001 C\n1070 3\n");
+  EXPECT_EQ(lines(dxf::withExtendedData(base, "c", two)),
+            "0 LINE\n8 0\n1001 A\n1000 1\n1001 管\n1002 {\n1000 2\n1002 }\n1001 c\n1000 two\n");
+  EXPECT_EQ(lines(dxf::withExtendedData(base, "D", DxfRecordEditor::tag(1071, "4"))),
+            lines(base) + "1001 D\n1071 4\n");
+  EXPECT_EQ(lines(dxf::withExtendedData(base, "管", "")), "0 LINE\n8 0\n1001 A\n1000 1\n1001 C\n1070 3\n");
+  EXPECT_EQ(dxf::withExtendedData(base, "missing", "").text(), base.text());
+}
+
+TEST(ExtendedData, OfARecordWhoseLastLineIsNotEndedBeginsALineOfItsOwn) {
+  const DxfRecord base = DxfRecord::own("0\nLINE\n8\n0");
+  EXPECT_EQ(dxf::withExtendedData(base, "A", DxfRecordEditor::tag(1070, "1")).text(),
+            "0\nLINE\n8\n0\n1001\nA\n1070\n1\n");
+  const DxfRecord empty = DxfRecord::own("");
+  EXPECT_EQ(dxf::withExtendedData(empty, "A", DxfRecordEditor::tag(1070, "1")).text(), "1001\nA\n1070\n1\n");
 }
 
 TEST(RecordEditor, ClosesALastLineWithoutEnd) {
