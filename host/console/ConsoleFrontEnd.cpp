@@ -6,9 +6,11 @@
 #include "host/ed/EdSession.h"
 
 #include <cstdio>
-#include <istream>
+#include <iostream>
 #include <ostream>
 #include <string>
+
+#include <unistd.h>
 
 // Names in drawings may hold anything; nothing of it may command the terminal or break the encoding.
 void ConsoleFrontEnd::write(const CString& text) {
@@ -38,6 +40,8 @@ void ConsoleFrontEnd::print(const CString& text) {
 
 // False at the end of the input, or where an interrupt has broken it off.
 bool ConsoleFrontEnd::takeTyped(std::string& line) {
+  // A terminal hands over whole lines, so that none is left in the stream when this waits for the next one.
+  if (&m_in == &std::cin && isatty(STDIN_FILENO) && !Interrupt::WaitForLine()) return false;
   // One byte more than a line may have tells a long line from one that just fits; the rest of it is passed
   // over.
   bool any = false;

@@ -1,5 +1,8 @@
 #include "host/console/Interrupt.h"
 
+#include <poll.h>
+#include <unistd.h>
+
 namespace {
 
 volatile std::sig_atomic_t g_pending = 0;
@@ -31,4 +34,19 @@ bool Interrupt::Take() {
   const bool pending = g_pending != 0;
   g_pending = 0;
   return pending;
+}
+
+// Signals are held back but while it waits, so that none comes between the look at the note and the wait.
+bool Interrupt::WaitForLine() {
+  sigset_t held;
+  sigset_t before;
+  sigemptyset(&held);
+  sigaddset(&held, SIGINT);
+  sigprocmask(SIG_BLOCK, &held, &before);
+  if (!IsPending()) {
+    pollfd terminal{STDIN_FILENO, POLLIN, 0};
+    ppoll(&terminal, 1, nullptr, &before);
+  }
+  sigprocmask(SIG_SETMASK, &before, nullptr);
+  return !IsPending();
 }

@@ -14,6 +14,9 @@ class Interrupt {
   // Whether it came since the last take.
   static bool IsPending();
   static bool Take();
+  // Waits until the terminal has a line. False when an interrupt came before, be it between the prompt and
+  // this call.
+  static bool WaitForLine();
 
  private:
   struct sigaction m_before {};

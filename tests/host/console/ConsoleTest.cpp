@@ -285,19 +285,8 @@ class Terminal {
     close(m_master);
   }
   void type(const std::string& text) { EXPECT_GT(::write(m_master, text.data(), text.size()), 0); }
-  // Ctrl+C until the text is shown. One that comes between the prompt and the reading of the line is seen
-  // with the next one.
-  bool interruptShows(const std::string& text) {
-    constexpr int kPresses = 3;
-    constexpr int kPatience = 5'000; // milliseconds
-    for (int press = 0; press < kPresses; ++press) {
-      type("\x03");
-      if (shows(text, kPatience)) return true;
-    }
-    return false;
-  }
   // Waits until the text is shown behind what was waited for before.
-  bool shows(const std::string& text, int patience = 20'000) {
+  bool shows(const std::string& text) {
     for (;;) {
       const auto found = m_shown.find(text);
       if (found != std::string::npos) {
@@ -305,30 +294,18 @@ class Terminal {
         return true;
       }
       pollfd ready{m_master, POLLIN, 0};
+      constexpr int kPatience = 20'000; // milliseconds
       char bytes[4096];
-      if (poll(&ready, 1, patience) != 1) return false;
+      if (poll(&ready, 1, kPatience) != 1) return false;
       const auto count = ::read(m_master, bytes, sizeof bytes);
       if (count <= 0) return false;
       m_shown.append(bytes, static_cast<std::size_t>(count));
     }
   }
-  // Presses Ctrl+C again where the program does not end.
   int exitStatus() {
-    constexpr int kPresses = 3;
-    constexpr int kLooks = 500;
-    constexpr int kBetweenLooks = 10'000; // microseconds
-    for (int press = 0; press < kPresses; ++press) {
-      for (int look = 0; look < kLooks; ++look) {
-        int raw = 0;
-        if (waitpid(m_child, &raw, WNOHANG) == m_child) {
-          m_child = -1;
-          return WIFEXITED(raw) ? WEXITSTATUS(raw) : -1;
-        }
-        usleep(kBetweenLooks);
-      }
-      type("\x03");
-    }
-    return -1;
+    int raw = 0;
+    waitpid(std::exchange(m_child, -1), &raw, 0);
+    return WIFEXITED(raw) ? WEXITSTATUS(raw) : -1;
   }
 
  private:
@@ -346,17 +323,19 @@ TEST(ConsoleAtATerminal, CtrlCCancelsThePromptAndTheSecondAtTheCommandPromptEnds
   ASSERT_TRUE(terminal.shows("命令: "));
   terminal.type("LINE\n0,0\n");
   ASSERT_TRUE(terminal.shows("指定下一点"));
-  ASSERT_TRUE(terminal.interruptShows("*取消*"));
+  terminal.type(kInterruptKey);
+  ASSERT_TRUE(terminal.shows("*取消*"));
   ASSERT_TRUE(terminal.shows("命令: "));
-  ASSERT_TRUE(terminal.interruptShows("再按一次 Ctrl+C"));
+  terminal.type(kInterruptKey);
+  ASSERT_TRUE(terminal.shows("再按一次 Ctrl+C"));
   ASSERT_TRUE(terminal.shows("命令: "));
   terminal.type("ID\n1,2\n");
   ASSERT_TRUE(terminal.shows("X = 1"));
   ASSERT_TRUE(terminal.shows("命令: "));
-  ASSERT_TRUE(terminal.interruptShows("再按一次 Ctrl+C"))
-      << "a line between them makes the next one the first again";
+  terminal.type(kInterruptKey);
+  ASSERT_TRUE(terminal.shows("再按一次 Ctrl+C")) << "a line between them makes the next one the first again";
   ASSERT_TRUE(terminal.shows("命令: "));
   terminal.type(kInterruptKey);
-  EXPECT_FALSE(terminal.shows("命令: ", 5'000));
+  EXPECT_FALSE(terminal.shows("命令: "));
   EXPECT_EQ(console::kDone, terminal.exitStatus());
 }
