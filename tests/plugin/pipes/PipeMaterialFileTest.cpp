@@ -1,7 +1,7 @@
 #include "host/afx/MessageLog.h"
 #include "plugin/pipes/PipeFields.h"
-#include "tests/plugin/pipes/AwkwardNames.h"
 #include "tests/plugin/pipes/CatalogueFixture.h"
+#include "tests/support/AwkwardNames.h"
 
 namespace {
 

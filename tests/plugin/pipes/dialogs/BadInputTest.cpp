@@ -6,40 +6,16 @@
 #include "plugin/pipes/dialogs/CZPDuctManagerDlg.h"
 #include "plugin/pipes/dialogs/CZPFlowVelocityMngDlg.h"
 #include "plugin/pipes/dialogs/CZPPipeManagerDlg.h"
-#include "tests/plugin/pipes/AwkwardNames.h"
 #include "tests/plugin/pipes/CatalogueFixture.h"
-#include "tests/plugin/pipes/dialogs/DialogFixture.h"
 #include "tests/plugin/pipes/ducts/DuctFixture.h"
 #include "tests/plugin/pipes/limits/LimitFixture.h"
+#include "tests/support/AwkwardNames.h"
+#include "tests/support/DialogFixture.h"
 #include "tests/support/ReadOnlyFolder.h"
 
 namespace {
 
 using namespace dialogtest;
-
-const std::vector<const wchar_t*> kNoNumbers = {L"abc", L"", L"  ", L"\"", L"a\n1", L"\U0001F600", L"－5"};
-
-// Leaves each cell of the table that can be edited with each text by the close box, in a dialog of its own.
-template <class Dialog, class Control, class MakeDialog>
-void CloseInTheMiddleOfEachEdit(UiFrontEndScript& frontEnd, Control Dialog::*table, MakeDialog make,
-                                const std::function<void(Dialog&)>& before = {}) {
-  int cells = 0; // an edit of the empty row adds one, which is not to be edited in turn
-  for (const wchar_t* text : {L"", L"x", L"0", L"12.5", L"\n\"\U0001F600"})
-    for (int cell = 0; cell == 0 || cell < cells; ++cell) {
-      auto dialog = make();
-      dialogtest::Run<Dialog>(frontEnd, *dialog, [&](Dialog& open) {
-        if (before) before(open);
-        Control& shown = open.*table;
-        const int columns = shown.GetColumnCount();
-        if (cell == 0) cells = columns * shown.GetRowCount();
-        if (!shown.UserBeginEdit(cell / columns, cell % columns)) return;
-        shown.UserTypeEdit(text);
-        open.UserClose();
-        EXPECT_TRUE(open.HasEnded());
-      });
-      EXPECT_TRUE(frontEnd.boxes.empty()) << "no word while the window closes";
-    }
-}
 
 // --- pipes
 

@@ -1,8 +1,8 @@
 #include "plugin/pipes/dialogs/CZPDuctManagerDlg.h"
 
 #include "plugin/pipes/dialogs/ShowPipeDialogs.h"
-#include "tests/plugin/pipes/dialogs/DialogFixture.h"
 #include "tests/plugin/pipes/ducts/DuctFixture.h"
+#include "tests/support/DialogFixture.h"
 
 namespace {
 

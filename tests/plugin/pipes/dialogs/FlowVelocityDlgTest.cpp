@@ -2,8 +2,8 @@
 
 #include "plugin/pipes/dialogs/LimitRules.h"
 #include "plugin/pipes/dialogs/ShowPipeDialogs.h"
-#include "tests/plugin/pipes/dialogs/DialogFixture.h"
 #include "tests/plugin/pipes/limits/LimitFixture.h"
+#include "tests/support/DialogFixture.h"
 
 namespace {
 

@@ -5,9 +5,9 @@
 
 #include "plugin/pipes/dialogs/PipeRows.h"
 #include "plugin/pipes/dialogs/ShowPipeDialogs.h"
-#include "tests/plugin/pipes/AwkwardNames.h"
 #include "tests/plugin/pipes/CatalogueFixture.h"
-#include "tests/plugin/pipes/dialogs/DialogFixture.h"
+#include "tests/support/AwkwardNames.h"
+#include "tests/support/DialogFixture.h"
 
 namespace {
 

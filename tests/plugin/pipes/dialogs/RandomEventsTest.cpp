@@ -6,9 +6,9 @@
 #include "plugin/pipes/dialogs/CZPFlowVelocityMngDlg.h"
 #include "plugin/pipes/dialogs/CZPPipeManagerDlg.h"
 #include "tests/plugin/pipes/CatalogueFixture.h"
-#include "tests/plugin/pipes/dialogs/DialogFixture.h"
 #include "tests/plugin/pipes/ducts/DuctFixture.h"
 #include "tests/plugin/pipes/limits/LimitFixture.h"
+#include "tests/support/DialogFixture.h"
 #include "tests/support/UiRobot.h"
 
 namespace {

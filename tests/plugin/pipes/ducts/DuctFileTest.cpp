@@ -3,8 +3,8 @@
 
 #include "host/afx/Numbers.h"
 #include "plugin/pipes/ducts/DuctFields.h"
-#include "tests/plugin/pipes/AwkwardNames.h"
 #include "tests/plugin/pipes/ducts/DuctFixture.h"
+#include "tests/support/AwkwardNames.h"
 
 namespace {
 

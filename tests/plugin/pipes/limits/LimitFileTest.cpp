@@ -5,8 +5,8 @@
 #include <sys/stat.h>
 
 #include "plugin/pipes/limits/LimitFields.h"
-#include "tests/plugin/pipes/AwkwardNames.h"
 #include "tests/plugin/pipes/limits/LimitFixture.h"
+#include "tests/support/AwkwardNames.h"
 #include "tests/support/FullDisk.h"
 #include "tests/support/OrdinaryUser.h"
 #include "tests/support/TinyDisk.h"

@@ -1,5 +1,8 @@
-// A dialog that is open for the length of a call, over catalogues of the test's own.
+// A dialog that is open for the length of a call, over catalogues of the test's own, and what all dialogs are
+// tried with.
 #pragma once
+
+#include <gtest/gtest.h>
 
 #include <functional>
 
@@ -43,6 +46,32 @@ inline UiOutcome Edit(CTableWnd& table, int row, int column, const CString& text
   UiOutcome outcome = table.UserBeginEdit(row, column);
   if (outcome) outcome = table.UserTypeEdit(text);
   return outcome ? table.UserEndEdit() : outcome;
+}
+
+// Texts that begin with no number.
+inline const std::vector<const wchar_t*> kNoNumbers = {L"abc",  L"",           L"  ", L"\"",
+                                                       L"a\n1", L"\U0001F600", L"－5"};
+
+// Leaves each cell of the table that can be edited with each text by the close box, in a dialog of its own.
+template <class Dialog, class Control, class MakeDialog>
+void CloseInTheMiddleOfEachEdit(UiFrontEndScript& frontEnd, Control Dialog::*table, MakeDialog make,
+                                const std::function<void(Dialog&)>& before = {}) {
+  int cells = 0; // an edit of the empty row adds one, which is not to be edited in turn
+  for (const wchar_t* text : {L"", L"x", L"0", L"12.5", L"\n\"\U0001F600"})
+    for (int cell = 0; cell == 0 || cell < cells; ++cell) {
+      auto dialog = make();
+      Run<Dialog>(frontEnd, *dialog, [&](Dialog& open) {
+        if (before) before(open);
+        Control& shown = open.*table;
+        const int columns = shown.GetColumnCount();
+        if (cell == 0) cells = columns * shown.GetRowCount();
+        if (!shown.UserBeginEdit(cell / columns, cell % columns)) return;
+        shown.UserTypeEdit(text);
+        open.UserClose();
+        EXPECT_TRUE(open.HasEnded());
+      });
+      EXPECT_TRUE(frontEnd.boxes.empty()) << "no word while the window closes";
+    }
 }
 
 } // namespace dialogtest
