@@ -3,10 +3,10 @@
 #include <memory>
 
 #include "plugin/base/CIDPEx.h"
+#include "plugin/base/FileFaults.h"
 #include "plugin/base/NumberText.h"
 #include "plugin/base/VersionMark.h"
 #include "plugin/pipes/CZPPipeMaterialManager.h"
-#include "plugin/pipes/FileFaults.h"
 #include "plugin/pipes/PipeFields.h"
 #include "plugin/pipes/PipeMaterialPath.h"
 
@@ -68,13 +68,13 @@ bool CZPPipeMaterialManager::ReadData() {
     CIDPEx* node = record->GetSubItem(name);
     CIDPEx* table = node->GetSubItem(kPipeTable);
     if (!table) {
-      pipes::LogUnread(path, CString(kPipeSection) + L"\\" + index + L"\\" + name, L"缺少管径数据");
+      idp::LogUnread(path, CString(kPipeSection) + L"\\" + index + L"\\" + name, L"缺少管径数据");
       continue;
     }
     // Names may repeat in a file: all are taken.
     m_arrMaterials.Add(ReadMaterial(name, *node, *table).release());
   }
-  if (gap) pipes::LogUnread(path, kPipeSection, L"编号不连续，有的项");
+  if (gap) idp::LogUnread(path, kPipeSection, L"编号不连续，有的项");
   return true;
 }
 

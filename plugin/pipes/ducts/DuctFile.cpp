@@ -4,9 +4,9 @@
 #include <vector>
 
 #include "plugin/base/CIDPEx.h"
+#include "plugin/base/FileFaults.h"
 #include "plugin/base/NumberText.h"
 #include "plugin/base/VersionMark.h"
-#include "plugin/pipes/FileFaults.h"
 #include "plugin/pipes/OwnedElements.h"
 #include "plugin/pipes/PipeMaterialPath.h"
 #include "plugin/pipes/ducts/CZPDuctMaterialManager.h"
@@ -56,13 +56,13 @@ void ReadMaterials(const CString& path, CIDPEx& section, pipes::OwnedElements<CZ
     CIDPEx* node = record->GetSubItem(name);
     CIDPEx* table = node->GetSubItem(kDuctThicknessTable);
     if (!table) {
-      pipes::LogUnread(path, Under(Under(kDuctMaterialSection, index), name), L"缺少壁厚数据");
+      idp::LogUnread(path, Under(Under(kDuctMaterialSection, index), name), L"缺少壁厚数据");
       continue;
     }
     // Names may repeat in a file: all are taken.
     materials.Add(ReadMaterial(name, *node, *table).release());
   }
-  if (gap) pipes::LogUnread(path, kDuctMaterialSection, kGap);
+  if (gap) idp::LogUnread(path, kDuctMaterialSection, kGap);
 }
 
 struct ReadSize {
@@ -82,7 +82,7 @@ std::vector<ReadSize> ReadSizes(const CString& path, const CString& position, CI
     for (const DuctSizeField& field : kDuctSizeFields) node->GetSubValue(field.key, (*size).*field.member);
     sizes.push_back({index, std::move(size)});
   }
-  if (gap) pipes::LogUnread(path, position, kGap);
+  if (gap) idp::LogUnread(path, position, kGap);
   return sizes;
 }
 
@@ -99,7 +99,7 @@ void TakeSizes(const CString& path, const CString& position, CIDPEx& section, Si
     if (kept.contains(item.size.get()))
       item.size.release();
     else
-      pipes::LogUnread(path, Under(position, item.index), L"规格重复");
+      idp::LogUnread(path, Under(position, item.index), L"规格重复");
   }
 }
 
@@ -151,12 +151,12 @@ bool CZPDuctMaterialManager::ReadData() {
   CIDPEx* sizes = root.GetSubItem(kDuctSizeSection);
   if (!materials) {
     // A file that only the pipes have written so far has no duct section at all, and nothing is wrong.
-    if (sizes) pipes::LogUnread(path, kDuctMaterialSection, L"缺少此段，其后的风管管径方案");
+    if (sizes) idp::LogUnread(path, kDuctMaterialSection, L"缺少此段，其后的风管管径方案");
     return false;
   }
   ReadMaterials(path, *materials, m_arrMaterials);
   if (!sizes) {
-    pipes::LogFault(path, kDuctSizeSection, kMissing);
+    idp::LogFault(path, kDuctSizeSection, kMissing);
     return false;
   }
   CIDPEx* rect = sizes->GetSubItem(kRectSizes);
@@ -165,14 +165,14 @@ bool CZPDuctMaterialManager::ReadData() {
   const CString circlePosition = Under(kDuctSizeSection, kCircleSizes);
   if (!rect) {
     if (circle)
-      pipes::LogUnread(path, rectPosition, L"缺少此段，其后的圆形风管管径方案");
+      idp::LogUnread(path, rectPosition, L"缺少此段，其后的圆形风管管径方案");
     else
-      pipes::LogFault(path, rectPosition, kMissing);
+      idp::LogFault(path, rectPosition, kMissing);
     return false;
   }
   TakeSizes(path, rectPosition, *rect, m_arrRectDiameters, [this] { SortRectDuctDiameter(); });
   if (!circle) {
-    pipes::LogFault(path, circlePosition, kMissing);
+    idp::LogFault(path, circlePosition, kMissing);
     return false;
   }
   TakeSizes(path, circlePosition, *circle, m_arrCircleDiameters, [this] { SortCircleDuctDiameter(); });

@@ -3,10 +3,10 @@
 #include <unordered_set>
 
 #include "plugin/base/CIDPEx.h"
+#include "plugin/base/FileFaults.h"
 #include "plugin/base/Folders.h"
 #include "plugin/base/NumberText.h"
 #include "plugin/base/VersionMark.h"
-#include "plugin/pipes/FileFaults.h"
 #include "plugin/pipes/limits/CZPFlowVelocityMng.h"
 #include "plugin/pipes/limits/LimitFields.h"
 
@@ -39,7 +39,7 @@ int CZPFlowVelocityMng::ReadData() {
   m_arrLimits.SetSize(0); // pointers that were handed out stay valid
   CIDPEx* section = root.GetSubItem(kLimitSection);
   if (!section) {
-    pipes::LogFault(path, kLimitSection, L"缺少此段");
+    idp::LogFault(path, kLimitSection, L"缺少此段");
     return 1;
   }
   std::unordered_set<CString> names; // asking the table for each would cost a walk
@@ -52,14 +52,14 @@ int CZPFlowVelocityMng::ReadData() {
       gap = true;
       continue;
     }
-    if (record->SubKeyNames.IsEmpty()) pipes::LogUnread(path, position, L"缺少管径，此行与其后各行");
+    if (record->SubKeyNames.IsEmpty()) idp::LogUnread(path, position, L"缺少管径，此行与其后各行");
     const CString name = record->SubKeyNames[0]; // raises the array's error where there is none
     if (names.insert(name).second)
       m_arrLimits.Add(ReadLimit(name, *record->GetSubItem(name)).release());
     else
-      pipes::LogUnread(path, position, L"管径重复");
+      idp::LogUnread(path, position, L"管径重复");
   }
-  if (gap) pipes::LogUnread(path, kLimitSection, L"编号不连续，有的项");
+  if (gap) idp::LogUnread(path, kLimitSection, L"编号不连续，有的项");
   return 1;
 }
 

@@ -1,10 +1,10 @@
-// What the readers of this module tell the message log about a file that is readable but not as it should be.
+// What the readers of catalogues tell the message log about a file that is readable but not as it should be.
 // The user sees none of it.
 #pragma once
 
 #include "host/afx/CString.h"
 
-namespace pipes {
+namespace idp {
 
 // The position is that of a key, from the root: "水管界限方案\3".
 void LogFault(const CString& path, const CString& position, const wchar_t* reason);
@@ -13,4 +13,4 @@ void LogFault(const CString& path, const CString& position, const wchar_t* reaso
 // of the file.
 void LogUnread(const CString& path, const CString& position, const wchar_t* reason);
 
-} // namespace pipes
+} // namespace idp
