@@ -20,11 +20,8 @@ struct MissingCommand {
 };
 
 constexpr MissingCommand kMissing[] = {
-    {L"KOR_TCGLQ", L"图层管理器"},
-    {L"KOR_CADTCFZ", L"CAD当前图纸图层分组"},
-    {L"KOR_CADTCKZ", L"当前CAD图纸图层管理"},
-    {L"KOR_FJPGGLQ", L"风机盘管数据管理"},
-    {L"KOR_SRQ", L"散热器管理器"},
+    {L"KOR_TCGLQ", L"图层管理器"},         {L"KOR_CADTCKZ", L"当前CAD图纸图层管理"},
+    {L"KOR_FJPGGLQ", L"风机盘管数据管理"}, {L"KOR_SRQ", L"散热器管理器"},
     {L"KOR_SRQJS", L"散热器片数计算"},
 };
 
@@ -66,7 +63,7 @@ constexpr VkCmdTable kTable[] = {
     {L"KOR_DKQBTC", ZP::OpenAllLayers, kFlags},
     {L"KOR_JDQBTC", ZP::UnFrozenAllLayers, kFlags},
     {L"KOR_JSQBTC", ZP::UnLockedAllLayers, kFlags},
-    ZP_MISSING_COMMAND(L"KOR_CADTCFZ"),
+    {L"KOR_CADTCFZ", dialogs::LayerGroups, kFlags},
     ZP_MISSING_COMMAND(L"KOR_CADTCKZ"),
     ZP_MISSING_COMMAND(L"KOR_FJPGGLQ"),
     {L"KOR_FJPG_OLDTONEW", fancoil::ImportOldCatalogue, kFlags},

@@ -3,6 +3,7 @@
 #include "host/ed/acedWindows.h"
 #include "plugin/frame/CZPSystemSettingsDlg.h"
 #include "plugin/graph/ResourceBracket.h"
+#include "plugin/layers/dialogs/CCADGroupLayerDlg.h"
 #include "plugin/pipes/dialogs/ShowPipeDialogs.h"
 
 void dialogs::PipeMaterials() {
@@ -20,4 +21,9 @@ void dialogs::DuctMaterials() {
 void dialogs::SystemSettings() {
   const ResourceBracket bracket;
   CZPSystemSettingsDlg(acedGetAcadDwgView()).DoModal();
+}
+
+void dialogs::LayerGroups() {
+  const ResourceBracket bracket;
+  CCADGroupLayerDlg(acedGetAcadDwgView()).DoModal();
 }

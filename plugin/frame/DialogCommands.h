@@ -7,5 +7,6 @@ void PipeMaterials();  // KOR_GJGLQ
 void VelocityLimits(); // KOR_LSGLQ
 void DuctMaterials();  // KOR_FGGJGLQ
 void SystemSettings(); // KOR_XTSZ
+void LayerGroups();    // KOR_CADTCFZ
 
 } // namespace dialogs

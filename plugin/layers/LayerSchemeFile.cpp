@@ -10,6 +10,7 @@
 #include "plugin/layers/CZPManagerLayer.h"
 #include "plugin/layers/CZPSystemLayer.h"
 #include "plugin/layers/LayerFields.h"
+#include "plugin/layers/ParameterEntry.h"
 
 namespace {
 
@@ -60,18 +61,12 @@ std::unique_ptr<CZPSystemLayer> ReadCategory(CIDPEx& numbered, int& flag) {
   return category;
 }
 
-// Sets a list's entry and gives its node.
-template <typename Value> CIDPEx& Entry(CIDPEx& list, const CString& key, Value value) {
-  list.SetSubValue(key, value);
-  return *list.GetSubItem(key);
-}
-
 CIDPEx& NamedEntry(CIDPEx& list, int number, const CZPLayerObject& object) {
-  return Entry(Entry(list, ZP::itoa(number), number), object.GetName(), object.IsAllowModify() ? 1 : 0);
+  return layers::Entry(layers::NumberedEntry(list, number), object.GetName(), object.IsAllowModify() ? 1 : 0);
 }
 
 void WriteLayer(CIDPEx& layerList, const CZPLayer& layer) {
-  CIDPEx& node = Entry(layerList, layer.GetKorLayer(), L"");
+  CIDPEx& node = layers::Entry(layerList, layer.GetKorLayer(), L"");
   node.SetSubValue(kAllowModifyKey, layer.IsAllowModify() ? 1 : 0);
   for (const LayerField& field : kLayerFields)
     std::visit([&](auto member) { node.SetSubValue(field.key, layer.Data().*member); }, field.member);
@@ -100,7 +95,7 @@ bool CZPManagerLayer::SaveData() {
   if (m_strPlanName.IsEmpty()) return false;
   CIDPEx root;
   root.SetSubValue(L"Version", kVersion);
-  CIDPEx& categoryList = Entry(root, kSchemeSection, m_strPlanName);
+  CIDPEx& categoryList = layers::Entry(root, kSchemeSection, m_strPlanName);
   for (int i = 0; i < m_arrCategories.GetSize(); ++i) {
     const CZPSystemLayer& category = *m_arrCategories[i];
     CIDPEx& groupList = NamedEntry(categoryList, i, category);

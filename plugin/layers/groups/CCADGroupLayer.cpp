@@ -1,0 +1,3 @@
+#include "plugin/layers/groups/CCADGroupLayer.h"
+
+IMPLEMENT_DYNAMIC(CCADGroupLayer, CZPObject)
