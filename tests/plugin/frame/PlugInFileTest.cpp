@@ -43,6 +43,8 @@ TEST(PlugInFile, ShowsWhatSiblingsCall) {
            "ZP::ShowDuctMaterialDlg(CWnd*)",
            "ZP::ShowDuctMaterialDlg(CZPDuctMaterial*&, CWnd*)",
            "ZP::ShowFVMngDlg(CWnd*)",
+           "ZP::ShowLRMDlg(CWnd*)",
+           "ZP::ShowLRSDlg(CZPLocalResistanceSettings&, CWnd*)",
            "CZPLocalResistanceMng::GetInstance()",
            "CZPLocalResistanceMng::SaveData()",
            "CZPPipePartsCoe::GetCoe(CString const&) const",
