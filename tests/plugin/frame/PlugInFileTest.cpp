@@ -72,6 +72,8 @@ TEST(PlugInFile, ShowsWhatSiblingsCall) {
            "ZP::GetOutDwgScale()",
            "ZP::SetOutDwgScale(double)",
            "ZP::SetFontType(int)",
+           "ZP::SetTextAttribute(AcDbText*, int)",
+           "ZP::DragGenEntity(AcArray<AcDbObjectId> const&, AcGePoint3d const&, bool)",
            "ZP::GetXRecord(AcDbObjectId, CString, resbuf*&)",
            "ZP::SelectedSingleVkDbHvacSpace(AcDbObjectId&)",
            "ZP::GetTQRoom(AcDbObjectId const&, CTQRoom*)",
