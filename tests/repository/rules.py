@@ -30,6 +30,7 @@ PLUGIN = {
     "plugin/layers": ["plugin/base", "plugin/graph"] + HOST_BELOW_5,
     **{subsystem: LAYERS_AND_BELOW for subsystem in SUBSYSTEMS},
     "plugin/tools": ["plugin/pipes"] + LAYERS_AND_BELOW,
+    "plugin/radiators": ["plugin/rooms"] + LAYERS_AND_BELOW,
     "plugin/frame": SUBSYSTEMS + LAYERS_AND_BELOW,
 }
 

@@ -1,0 +1,103 @@
+// The calculation window over a catalogue, a drawing, a layer scheme and remembered values of the test's own.
+#pragma once
+
+#include "host/db/AcDbText.h"
+#include "host/ed/ArxDbgUtils.h"
+#include "plugin/base/DefaultValues.h"
+#include "plugin/layers/CZPGroupLayer.h"
+#include "plugin/layers/CZPManagerLayer.h"
+#include "plugin/layers/CZPSystemLayer.h"
+#include "plugin/radiators/dialogs/CZPRadiatorCalculateDlg.h"
+#include "plugin/rooms/CTQRoom.h"
+#include "plugin/rooms/RoomRecord.h"
+#include "plugin/rooms/VkDbHvacSpace.h"
+#include "tests/plugin/radiators/RadiatorCatalogueFixture.h"
+#include "tests/support/ScriptedEditor.h"
+#include "tests/support/UiFrontEndScript.h"
+
+class CalculateFixture : public RadiatorCatalogueFixture {
+ protected:
+  using Dlg = CZPRadiatorCalculateDlg;
+
+  // Cast iron by the exponent law, steel by the other two.
+  CalculateFixture() {
+    ZP::SetDefaultValuesFile(DefaultsPath());
+    iron = AddRadiator(AddType(L"铸铁"), L"四柱760");
+    iron->m_dA = 0.6;
+    iron->m_dB = 1.28;
+    CZPRadiatorType* steel = AddType(L"钢制");
+    panel = AddRadiator(steel, L"板式600");
+    panel->m_nFormula = 1;
+    panel->m_strUnit = L"m";
+    panel->m_dF = 2.5;
+    fixed = AddRadiator(steel, L"柱式");
+    fixed->m_nFormula = 2;
+    DefineNoteLayer();
+  }
+  ~CalculateFixture() override {
+    CZPManagerLayer::GetInstance()->RemoveAll();
+    ZP::SetDefaultValuesFile(L"");
+    chosen = nullptr;
+  }
+
+  CString DefaultsPath() const { return CString::FromUtf8((install.Root() / "user/Defaults.idp").string()); }
+  static void DefineNoteLayer() {
+    CZPManagerLayer& scheme = *CZPManagerLayer::GetInstance();
+    scheme.RemoveAll();
+    auto* category = new CZPSystemLayer;
+    auto* group = new CZPGroupLayer;
+    auto* layer = new CZPLayer;
+    layer->SetKorLayer(L"公用标注");
+    layer->SetUserLayer(L"暖通-公用-标注");
+    layer->SetColorIndex(3);
+    scheme.Add(category);
+    category->Add(group);
+    group->Add(layer);
+  }
+
+  // What the radiator manager would do: chooses the one set beforehand, or none.
+  static int Choose(CZPRadiator*& radiator, CWnd*) {
+    if (!chosen) return 0;
+    radiator = chosen;
+    return 1;
+  }
+  int In(const std::function<void(Dlg&)>& test) {
+    Dlg dialog(nullptr, Choose);
+    frontEnd.runs.push_front([&](CDialog&) { test(dialog); });
+    return dialog.DoModal();
+  }
+  static void SwitchTo(Dlg& dialog, CZPRadiator* radiator) {
+    chosen = radiator;
+    EXPECT_TRUE(dialog.m_manager.UserClick());
+    EXPECT_EQ(dialog.Radiator(), radiator);
+  }
+
+  // A room of 6 m by 4 m from the origin, with a record unless told otherwise.
+  static AcDbObjectId AddRoom(double load, double temperature, bool hasRecord = true) {
+    auto* room = new VkDbHvacSpace;
+    room->SetPosition({1000, 2000, 0});
+    room->SetBoundary({{0, 0, 0}, {6000, 0, 0}, {6000, 4000, 0}, {0, 4000, 0}});
+    room->SetTotalHeatLoad(load);
+    EXPECT_EQ(ArxDbgUtils::addToCurrentSpace(room), Acad::eOk);
+    const AcDbObjectId id = room->objectId();
+    room->close();
+    CTQRoom record;
+    record.m_dWinData = temperature;
+    if (hasRecord) ZP::SetTQRoom(id, &record);
+    return id;
+  }
+  std::vector<const AcDbText*> Texts() {
+    std::vector<const AcDbText*> texts;
+    const AcDbObjectPointer<AcDbBlockTableRecord> space(editor.Database().modelSpaceId(), AcDb::kForRead);
+    for (const AcDbObjectId& id : space->entities())
+      if (const auto* text = AcDbText::cast(id.object()); text && !id.isErased()) texts.push_back(text);
+    return texts;
+  }
+
+  ScriptedEditor editor;
+  UiFrontEndScript frontEnd;
+  CZPRadiator* iron = nullptr;
+  CZPRadiator* panel = nullptr;
+  CZPRadiator* fixed = nullptr;
+  static inline CZPRadiator* chosen = nullptr;
+};
