@@ -5,6 +5,7 @@
 #include "plugin/graph/ResourceBracket.h"
 #include "plugin/layers/dialogs/CCADGroupLayerDlg.h"
 #include "plugin/pipes/dialogs/ShowPipeDialogs.h"
+#include "plugin/radiators/dialogs/ShowRadiatorDialogs.h"
 
 void dialogs::PipeMaterials() {
   ZP::ShowPipeMaterialDlg(acedGetAcadDwgView());
@@ -26,4 +27,8 @@ void dialogs::SystemSettings() {
 void dialogs::LayerGroups() {
   const ResourceBracket bracket;
   CCADGroupLayerDlg(acedGetAcadDwgView()).DoModal();
+}
+
+void dialogs::Radiators() {
+  ZP::ShowRadMngDlg(nullptr);
 }

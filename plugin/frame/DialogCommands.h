@@ -8,5 +8,6 @@ void VelocityLimits(); // KOR_LSGLQ
 void DuctMaterials();  // KOR_FGGJGLQ
 void SystemSettings(); // KOR_XTSZ
 void LayerGroups();    // KOR_CADTCFZ
+void Radiators();      // KOR_SRQ
 
 } // namespace dialogs

@@ -7,3 +7,7 @@ void notice::Tell(const CString& text) {
 bool notice::Confirm(const CString& text) {
   return AfxMessageBox(text, kCaption, MB_OKCANCEL | MB_ICONINFORMATION | MB_DEFBUTTON2) == IDOK;
 }
+
+bool notice::Warn(const CString& text) {
+  return AfxMessageBox(text, kCaption, MB_OKCANCEL | MB_ICONEXCLAMATION | MB_DEFBUTTON2) == IDOK;
+}

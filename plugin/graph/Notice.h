@@ -1,4 +1,4 @@
-// Message boxes of the package: one caption and one icon for all.
+// Message boxes of the package: one caption for all.
 #pragma once
 
 #include "host/ui/MessageBox.h"
@@ -11,5 +11,7 @@ inline constexpr const wchar_t* kCaption = L"青岚提示";
 void Tell(const CString& text);
 // Asks before something that can't be taken back. True for OK; Cancel is what Enter presses.
 bool Confirm(const CString& text);
+// The same with an exclamation mark instead of the package's icon, for what concerns data that others use.
+bool Warn(const CString& text);
 
 } // namespace notice

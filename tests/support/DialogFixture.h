@@ -7,6 +7,7 @@
 #include <functional>
 
 #include "host/ui/CButton.h"
+#include "host/ui/CTableWnd.h"
 #include "tests/support/UiFrontEndScript.h"
 
 namespace dialogtest {
