@@ -18,6 +18,8 @@ constexpr CommandRow kTable[] = {
     {L"WB_GXSX", L"管线属性", kDraws, EditPipe},
     {L"WB_GXBZ", L"管线标注", kDraws, LabelPipe},
     {L"WB_GJJS", L"管径计算", kDraws, SizePipe},
+    {L"WB_JBZL", L"局部阻力", kDraws, ResistPipe},
+    {L"WB_JZXS", L"局阻系数管理器", kDraws, ManageResistance},
     {L"WB_SCKW", L"生成扣弯", kDraws, MakeBends},
     {L"WB_BZFJ", L"布置房间", kDraws, PlaceRoom},
     {L"WB_CXFJ", L"查询房间负荷", kDraws, QueryRoom},

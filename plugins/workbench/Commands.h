@@ -10,8 +10,10 @@ void EditPipe();     // shows and changes the data of a pipe
 void LabelPipe();    // the label of a pipe beside it
 void MakeBends();    // crossing bends where selected pipes of different elevations meet
 void SizePipe();     // the diameter for a flow, velocity and friction
-void PlaceRoom();    // a room with its outline, its loads and its record
-void QueryRoom();    // the loads of a room, for heating, for cooling, or with its temperature
+void ResistPipe();   // the local resistances of a pipe and their sum
+void ManageResistance();
+void PlaceRoom(); // a room with its outline, its loads and its record
+void QueryRoom(); // the loads of a room, for heating, for cooling, or with its temperature
 void MeasureLength();
 void MeasureArea();
 void DragGroup();        // copies of what is selected, dragged and turned as one

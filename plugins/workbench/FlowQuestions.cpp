@@ -11,6 +11,8 @@ namespace {
 constexpr Range kRates{1e-4, 1e6}; // m3/h
 constexpr Range kLoads{1e-3, 1e7}; // kW
 constexpr Range kTemperatures{hydraulics::kColdestWater, hydraulics::kHottestWater};
+constexpr const wchar_t* kWaterTemperature = L"计算\\水温";
+constexpr double kUsualTemperature = 60;
 
 // Asks with what was answered last, and remembers what is answered now.
 std::optional<double> AskRemembered(const CString& subject, const CString& name, double preset,
@@ -25,7 +27,7 @@ std::optional<FlowRequest> AskRate(double presentRate) {
   const auto rate = AskNumber(L"流量(m³/h)", preset, kRates);
   if (!rate) return std::nullopt;
   Remember(L"计算\\流量", *rate);
-  const auto celsius = AskRemembered(L"水温(℃)", L"计算\\水温", 60, kTemperatures);
+  const auto celsius = AskRemembered(L"水温(℃)", kWaterTemperature, kUsualTemperature, kTemperatures);
   if (!celsius) return std::nullopt;
   return FlowRequest{*rate, *celsius};
 }
@@ -45,6 +47,12 @@ std::optional<FlowRequest> AskLoad() {
 }
 
 } // namespace
+
+double LastWaterTemperature() {
+  const double celsius = Remembered(kWaterTemperature, kUsualTemperature);
+  const bool known = celsius >= kTemperatures.from && celsius <= kTemperatures.to;
+  return known ? celsius : kUsualTemperature; // the file of defaults is open to all
+}
 
 std::optional<FlowRequest> AskFlow(double presentRate) {
   const auto by = ed::AskKeyword({L"计算依据 [流量(F)/负荷(Q)] <流量>:", L"流量,F 负荷,Q", 0, {}});

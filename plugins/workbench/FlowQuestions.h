@@ -14,4 +14,7 @@ struct FlowRequest {
 // default where it is above 0. Nothing for Escape.
 std::optional<FlowRequest> AskFlow(double presentRate);
 
+// The temperature of the water, in degrees Celsius, that AskFlow was last told with a flow rate.
+double LastWaterTemperature();
+
 } // namespace workbench

@@ -25,6 +25,10 @@ SCREEN = {"name": "screen", "x": 0, "y": 0, "width": 1600, "height": 1000, "logi
 COLORS = 256  # of the palette of a committed picture
 SECONDS = 60
 
+MAIN = ["WB_HZGG", "采暖供水干管", "镀锌钢管(普通)", "25", "3", "0,0", "6000,0", ""]
+SECTION = ["edit 管道配件 1 名称 = 散热器", "edit 管道配件 2 名称 = 弯头", "edit 管道配件 弯头 数量 = 4", "edit 管道配件 3 名称 = 闸阀",
+           "set 1分/1→3 = 2", "set 3汇/1→3 = 1", "set 其它局部阻力系数 = 0.5"]
+
 # Name: what is typed, and the drawing that the program is started with. A picture shows what stands open at the end.
 WINDOWS = {
     "main-window": (["ZOOM", "E"], PLAN),
@@ -35,6 +39,9 @@ WINDOWS = {
     "duct-manager": (["KOR_FGGJGLQ"], None),
     "duct-manager-round": (["KOR_FGGJGLQ", "select 截面形状 圆形"], None),
     "velocity-limits": (["KOR_LSGLQ", "select 流速 32"], None),
+    "coefficient-manager": (["WB_JZXS", "select 管道配件 弯头"], None),
+    "coefficient-manager-tees": (["WB_JZXS", "select 局阻系数 三通四通"], None),
+    "section-resistance": (MAIN + ["WB_JBZL", "3000,0"] + SECTION, None),
 }
 
 

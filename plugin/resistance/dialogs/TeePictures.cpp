@@ -8,7 +8,7 @@ namespace resistance {
 namespace {
 
 constexpr std::size_t kFormsInARow = 4;
-constexpr int kPictureWidth = 150;
+constexpr int kFormWidth = 170; // as much for each, so that the forms of both rows stand below each other
 constexpr int kPictureHeight = 100;
 
 } // namespace
@@ -35,11 +35,11 @@ CPictureBox& TeePictures::Of(const TeeFlow& flow) const {
 
 UiLayout TeePictures::FormLayout(CPictureBox& box,
                                  const std::function<UiLayout(std::size_t)>& control) const {
-  std::vector<UiLayout> items{ui::Item(box).Size(kPictureWidth, kPictureHeight)};
+  std::vector<UiLayout> items{ui::Item(box).Size(kFormWidth, kPictureHeight)};
   for (std::size_t flow = 0; flow < std::size(kTeeFlows); ++flow)
     if (&Of(kTeeFlows[flow]) == &box) items.push_back(control(flow));
   items.push_back(ui::Space()); // the pictures of a row end at one height, however many flows they have
-  return ui::Column(std::move(items));
+  return ui::Column(std::move(items)).Stretch(1).Size(kFormWidth, 0);
 }
 
 UiLayout TeePictures::Layout(const std::function<UiLayout(std::size_t)>& control) const {
