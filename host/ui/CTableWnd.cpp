@@ -2,6 +2,7 @@
 #include "host/ui/CTableWnd.h"
 
 #include "host/afx/CInvalidArgException.h"
+#include "host/ui/CFormWnd.h"
 
 #include <algorithm>
 
@@ -55,6 +56,11 @@ void CTableWnd::SetColumnFixed(int column, bool fixed) {
 
 void CTableWnd::SetColumnReadOnly(int column, bool readOnly) {
   ColumnAt(column).readOnly = readOnly;
+  Notify(UiChange::Kind::content);
+}
+
+void CTableWnd::SetColumnPressed(int column, bool pressed) {
+  ColumnAt(column).pressed = pressed;
   Notify(UiChange::Kind::content);
 }
 
@@ -234,6 +240,21 @@ UiOutcome CTableWnd::UserDoubleClick(int row, int column) {
   UiOutcome outcome = UserClick(row, column);
   if (!outcome || !IsCell(row, column)) return outcome;
   CellDoubleClicked(row, column);
+  return {};
+}
+
+bool CTableWnd::CanPress(int row, int column) const {
+  return IsCell(row, column) && !Row(row).fixed && Column(column).pressed && Column(column).width > 0 &&
+         !Cell(row, column).readOnly;
+}
+
+UiOutcome CTableWnd::UserPress(int row, int column) {
+  UiOutcome outcome = UserClick(row, column);
+  if (!outcome) return outcome;
+  const CFormWnd* top = TopForm();
+  if (top && top->HasEnded()) return {};
+  if (!CanPress(row, column)) return {L"“" + GetCaption() + L"”的这一单元格不能点按。", L"可以点按的单元格"};
+  CellPressed(row, column);
   return {};
 }
 

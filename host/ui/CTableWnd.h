@@ -6,6 +6,8 @@
 // edit ends the cell takes its text, and then EditEnded lets a rule look at it. A rule that refuses the text
 // sets `reopen`: the cell has its old text again and the edit stands open with the refused one. While the
 // window is closing nothing reopens. An edit whose row is deleted is gone without EditEnded.
+//
+// Cells of a pressed column are no texts to type: whatever changes them is begun by CellPressed.
 #pragma once
 
 #include "host/ui/CWnd.h"
@@ -38,6 +40,7 @@ class CTableWnd : public CWnd {
   void SetColumnTitle(int column, const CString& title);
   void SetColumnFixed(int column, bool fixed);
   void SetColumnReadOnly(int column, bool readOnly);
+  void SetColumnPressed(int column, bool pressed);
   bool HasColumnTitles() const;
 
   // --- rows
@@ -101,6 +104,7 @@ class CTableWnd : public CWnd {
   bool IsEditable() const { return m_editable; }
   void SetEditable(bool editable);
   bool CanEdit(int row, int column) const;
+  bool CanPress(int row, int column) const;
   // Opens the edit of a cell and selects its row. False if the cell can't be edited, or the edit that stands
   // open was refused.
   bool EditCell(int row, int column);
@@ -112,6 +116,9 @@ class CTableWnd : public CWnd {
   // A click on a cell, or moving there by a key.
   UiOutcome UserClick(int row, int column, Pick pick = Pick::only);
   UiOutcome UserDoubleClick(int row, int column);
+  // A click of the left button alone, or the key for it, on a cell of a pressed column. Moving there,
+  // selecting the row among others and the click that opens a menu are none.
+  UiOutcome UserPress(int row, int column);
   UiOutcome UserBeginEdit(int row, int column);
   UiOutcome UserTypeEdit(const CString& text); // the whole text of the open edit
   UiOutcome UserEndEdit();                     // Enter
@@ -124,6 +131,7 @@ class CTableWnd : public CWnd {
   UiContextMenu Menu;
   UiSignal<int, int> CellClicked; // row, column
   UiSignal<int, int> CellDoubleClicked;
+  UiSignal<int, int> CellPressed; // behind CellClicked
   UiSignal<int, int> EditBegun;
   UiSignal<UiEditEnd&> EditEnded;
 

@@ -12,7 +12,7 @@ void CTableWnd::SetEditable(bool editable) {
 bool CTableWnd::CanEdit(int row, int column) const {
   if (!m_editable || !IsCell(row, column) || Row(row).fixed) return false;
   const UiColumn& where = Column(column);
-  return !where.fixed && !where.readOnly && where.width > 0 && !Cell(row, column).readOnly;
+  return !where.fixed && !where.readOnly && !where.pressed && where.width > 0 && !Cell(row, column).readOnly;
 }
 
 void CTableWnd::OpenEdit(Edit edit) {

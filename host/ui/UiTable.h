@@ -13,6 +13,7 @@ struct UiColumn {
   int width = 0; // pixels; a column of width 0 is hidden
   bool fixed = false;
   bool readOnly = false;
+  bool pressed = false; // its cells are pressed and not edited, see CTableWnd::CellPressed
 };
 
 struct UiCell {

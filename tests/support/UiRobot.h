@@ -92,7 +92,7 @@ class UiRobot {
   }
   void Act(CTableWnd& table) {
     const int row = Index(table.GetRowCount()), column = Index(table.GetColumnCount());
-    switch (Below(9)) {
+    switch (Below(10)) {
     case 0:
       table.UserClick(row, column, static_cast<CTableWnd::Pick>(Below(3)));
       break;
@@ -110,6 +110,9 @@ class UiRobot {
       break;
     case 5:
       table.UserTypeEdit(Text());
+      break;
+    case 6:
+      table.UserPress(row, column);
       break;
     default:
       table.UserBeginEdit(row, column);

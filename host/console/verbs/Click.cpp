@@ -12,7 +12,10 @@ UiOutcome ClickCell(CTableWnd& table, const CString& where) {
   const auto rows = DialogRows(table);
   UiOutcome outcome;
   const auto cell = FindCell(table, rows, where, outcome);
-  return cell.row ? table.UserClick(cell.row->index, cell.column) : outcome;
+  if (!cell.row) return outcome;
+  const int row = cell.row->index;
+  return table.CanPress(row, cell.column) ? table.UserPress(row, cell.column)
+                                          : table.UserClick(row, cell.column);
 }
 
 } // namespace

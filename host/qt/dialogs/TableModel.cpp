@@ -69,7 +69,8 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
       if (!cell.background) return QBrush(kSelectedColour);
     }
     if (cell.background) return QBrush(ColorOf(*cell.background));
-    if (m_table.IsEditable() && !m_table.CanEdit(row, column)) return QBrush(kReadOnlyColour);
+    if (m_table.IsEditable() && !m_table.CanEdit(row, column) && !m_table.CanPress(row, column))
+      return QBrush(kReadOnlyColour);
     return {};
   }
   case Qt::ToolTipRole:

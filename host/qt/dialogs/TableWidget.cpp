@@ -12,6 +12,7 @@
 #include <QStyledItemDelegate>
 
 #include <algorithm>
+#include <utility>
 
 namespace desktop {
 namespace {
@@ -149,6 +150,10 @@ void TableWidget::mousePressEvent(QMouseEvent* event) {
   if (event->modifiers() & Qt::ControlModifier) pick = CTableWnd::Pick::toggle;
   if (event->modifiers() & Qt::ShiftModifier) pick = CTableWnd::Pick::extend;
   if (m_table.Row(cell.y()).fixed) return;
+  if (pick == CTableWnd::Pick::only && m_table.CanPress(cell.y(), cell.x())) {
+    m_pressed = cell;
+    return;
+  }
   // A second click on the cell in focus opens its edit.
   const bool again = pick == CTableWnd::Pick::only && m_table.GetFocusRow() == cell.y() &&
                      m_table.GetFocusColumn() == cell.x() && m_table.CanEdit(cell.y(), cell.x());
@@ -158,6 +163,14 @@ void TableWidget::mousePressEvent(QMouseEvent* event) {
     const bool list = m_table.Cell(cell.y(), cell.x()).choices != nullptr;
     return again || list ? m_table.UserBeginEdit(cell.y(), cell.x()) : outcome;
   });
+}
+
+// Like a button: what it opens must not begin while the mouse is still held.
+void TableWidget::mouseReleaseEvent(QMouseEvent* event) {
+  const QPoint down = std::exchange(m_pressed, {-1, -1});
+  if (event->button() != Qt::LeftButton || down.y() < 0 || cellAt(event->position().toPoint()) != down)
+    return;
+  obey([this, down] { return m_table.UserPress(down.y(), down.x()); });
 }
 
 void TableWidget::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -202,7 +215,9 @@ void TableWidget::keyPressEvent(QKeyEvent* event) {
   const int row = m_table.GetFocusRow();
   const int column = m_table.GetFocusColumn();
   const bool editable = row >= 0 && m_table.CanEdit(row, column);
+  const bool pressable = row >= 0 && m_table.CanPress(row, column);
   const auto begin = [this, row, column] { return m_table.UserBeginEdit(row, column); };
+  const auto press = [this, row, column] { return m_table.UserPress(row, column); };
   switch (event->key()) {
   case Qt::Key_Up:
     return moveFocus(-1, 0);
@@ -214,14 +229,17 @@ void TableWidget::keyPressEvent(QKeyEvent* event) {
     return moveFocus(0, 1);
   case Qt::Key_F2:
     if (editable) return obey(begin);
+    if (pressable) return obey(press);
     break;
   case Qt::Key_Return:
   case Qt::Key_Enter:
     if (editable) return obey(begin);
+    if (pressable) return obey(press);
     break;
   default:
     break;
   }
+  if (pressable && event->key() == Qt::Key_Space) return obey(press);
   const QString typed = event->text();
   const bool prints = !typed.isEmpty() && typed[0].isPrint() &&
                       !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier));

@@ -30,6 +30,7 @@ class TableWidget : public QTableView {
  protected:
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent*) override {} // nothing is dragged
+  void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
@@ -60,6 +61,7 @@ class TableWidget : public QTableView {
   QComboBox* m_combo = nullptr;
   int m_editRow = -1;
   int m_editColumn = -1;
+  QPoint m_pressed{-1, -1}; // the cell that the button went down on
   bool m_filling = false;
 };
 

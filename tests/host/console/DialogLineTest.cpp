@@ -114,6 +114,18 @@ TEST_F(DialogLine, SelectsRowsAndCells) {
   EXPECT_EQ(dialog.m_cell, L"1,0!");
 }
 
+TEST_F(DialogLine, PressesCellsThatAreForIt) {
+  dialog.m_grid.SetColumnPressed(2, true);
+  CString pressed;
+  dialog.m_grid.CellPressed.Connect(
+      [&](int row, int column) { pressed.AppendFormat(L"%d,%d ", row, column); });
+  EXPECT_EQ("", Obey(L"select 配件 1"));
+  EXPECT_EQ("", Obey(L"click 配件 2 1"));
+  EXPECT_EQ("", Obey(L"click 配件 2 数 量"));
+  EXPECT_EQ(pressed, L"2,2 ");
+  EXPECT_NE("", Obey(L"edit 配件 2 数 量 = 5"));
+}
+
 TEST_F(DialogLine, EditsCells) {
   EXPECT_EQ("", Obey(L"edit 配件 弯头 数 量 = 5 个"));
   EXPECT_EQ(dialog.m_grid.GetItemText(1, 2), L"5 个");

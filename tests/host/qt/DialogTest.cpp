@@ -140,6 +140,32 @@ TEST_F(DialogView, MovesInATableByArrowKeysPastFixedRows) {
   EXPECT_EQ(0, dialog.grid.GetFocusColumn());
 }
 
+TEST_F(DialogView, PressesACellByTheMouseAndByKeysAlone) {
+  std::vector<int> pressed;
+  dialog.grid.SetColumnPressed(1, true);
+  dialog.grid.SetMultiSelect(true);
+  dialog.grid.Menu.SetProvider([] { return std::vector<UiMenuItem>(); });
+  dialog.grid.CellPressed.Connect([&](int row, int) { pressed.push_back(row); });
+  const auto key = [&](Qt::Key code) { QTest::keyClick(&find<QTableView>("表格"), code); };
+  const auto mouse = [&](Qt::MouseButton button, Qt::KeyboardModifiers modifiers, int row) {
+    auto& table = find<QTableView>("表格");
+    QTest::mouseClick(table.viewport(), button, modifiers, cell(table, row, 1));
+  };
+  show({[&] { clickCell("表格", 1, 1); }, [&] { key(Qt::Key_Down); },
+        [&] { mouse(Qt::LeftButton, Qt::ControlModifier, 1); },
+        [&] { mouse(Qt::LeftButton, Qt::ShiftModifier, 2); },
+        [&] { mouse(Qt::RightButton, Qt::NoModifier, 1); },
+        [&] {
+          auto& table = find<QTableView>("表格");
+          QTest::mousePress(table.viewport(), Qt::LeftButton, {}, cell(table, 1, 1));
+          QTest::mouseRelease(table.viewport(), Qt::LeftButton, {}, cell(table, 2, 0));
+        },
+        [&] { EXPECT_EQ(pressed, (std::vector<int>{1})) << "nothing but the click"; },
+        [&] { clickCell("表格", 2, 0); }, [&] { key(Qt::Key_Right); }, [&] { key(Qt::Key_Space); },
+        [&] { key(Qt::Key_Return); }});
+  EXPECT_EQ(pressed, (std::vector<int>{1, 2, 2}));
+}
+
 TEST_F(DialogView, ChoosesInADropDownCell) {
   show({[&] { clickCell("管材", 1, 1); }, [&] {},
         [&] {

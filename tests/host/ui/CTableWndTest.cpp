@@ -111,6 +111,42 @@ TEST_F(Tables, OpenTheirMenuOnTheRowUnderTheMouse) {
   EXPECT_EQ(grid.SelectedRows(), (Rows{1, 3})) << "a right click in the selection keeps it";
 }
 
+TEST_F(Tables, PressOnlyCellsThatAreForIt) {
+  std::vector<std::pair<int, int>> pressed;
+  grid.CellPressed.Connect([&](int row, int column) { pressed.emplace_back(row, column); });
+  grid.Menu.SetProvider([] { return std::vector<UiMenuItem>{{1, L"删除"}}; });
+  EXPECT_FALSE(grid.UserPress(1, 1)) << "a column like others";
+  grid.SetColumnPressed(1, true);
+  EXPECT_FALSE(grid.CanEdit(1, 1));
+  EXPECT_TRUE(grid.UserClick(1, 1)) << "as by an arrow key";
+  EXPECT_TRUE(grid.UserOpenMenu(2, 1));
+  EXPECT_TRUE(pressed.empty());
+  clicked.clear();
+  EXPECT_TRUE(grid.UserPress(3, 1));
+  EXPECT_EQ(clicked, (std::vector<std::pair<int, int>>{{3, 1}}));
+  EXPECT_EQ(pressed, clicked);
+  EXPECT_EQ(grid.SelectedRows(), Rows{3});
+  EXPECT_FALSE(grid.UserPress(0, 1)) << "the heading";
+  grid.SetCellReadOnly(3, 1, true);
+  EXPECT_FALSE(grid.UserPress(3, 1));
+  EXPECT_EQ(pressed.size(), 1u);
+}
+
+TEST_F(Tables, FinishTheOpenEditBeforeACellIsPressed) {
+  grid.SetColumnPressed(1, true);
+  grid.EditEnded.Connect([](UiEditEnd& end) { end.reopen = end.text == L"bad"; });
+  int pressed = 0;
+  grid.CellPressed.Connect([&](int, int) { ++pressed; });
+  EXPECT_TRUE(grid.UserBeginEdit(1, 0));
+  EXPECT_TRUE(grid.UserTypeEdit(L"bad"));
+  EXPECT_FALSE(grid.UserPress(2, 1));
+  EXPECT_EQ(pressed, 0);
+  EXPECT_TRUE(grid.UserTypeEdit(L"good"));
+  EXPECT_TRUE(grid.UserPress(2, 1));
+  EXPECT_EQ(grid.GetItemText(1, 0), L"good");
+  EXPECT_EQ(pressed, 1);
+}
+
 TEST_F(Tables, TellTheirChangesOnceWhileTheyAreQuiet) {
   Told told(grid);
   grid.SetItemText(1, 0, L"x");
