@@ -47,7 +47,7 @@ bool ConsoleDialogs::ObeyBarLine(const CString& line) {
 }
 
 int ConsoleDialogs::ShowMessageBox(const UiMessageBox& box) {
-  EdMessageBox asked{box.caption, box.text, {}, box.defaultButton};
+  EdMessageBox asked{ShownCaption(box), box.text, {}, box.defaultButton};
   for (const auto& button : box.buttons) asked.buttons.push_back(button.caption);
   return box.buttons[m_frontEnd.messageBox(asked).button].id;
 }

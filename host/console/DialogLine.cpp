@@ -2,6 +2,7 @@
 
 #include "host/console/verbs/DialogVerbs.h"
 #include "host/ed/EdLineParser.h"
+#include "host/ui/ObeyUser.h"
 
 namespace console {
 namespace {
@@ -32,7 +33,7 @@ UiOutcome ObeyDialogLine(CFormWnd& form, const CString& line,
   const CString rest = text.Mid(word.GetLength()).TrimLeft();
   CString words;
   for (const Verb& verb : kVerbs) {
-    if (word.CompareNoCase(verb.word) == 0) return verb.obey({form, rest, print});
+    if (word.CompareNoCase(verb.word) == 0) return ObeyUser([&] { return verb.obey({form, rest, print}); });
     if (verb.obey != Answer) words += (words.IsEmpty() ? L"" : L"、") + CString(verb.word);
   }
   return {L"对话框中没有“" + ed::Excerpt(word) + L"”这种操作。", words};

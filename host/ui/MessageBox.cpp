@@ -30,8 +30,16 @@ UiMessageBox MakeMessageBox(const CString& text, const CString& caption, unsigne
   return box;
 }
 
+CString ShownCaption(const UiMessageBox& box) {
+  return box.caption.IsEmpty() ? CString(L"zpcad") : box.caption;
+}
+
 int AfxMessageBox(const CString& text, const CString& caption, unsigned flags) {
   const UiMessageBox box = MakeMessageBox(text, caption, flags);
   auto* frontEnd = UiFrontEnd::Get();
   return frontEnd ? frontEnd->ShowMessageBox(box) : box.buttons[box.defaultButton].id;
+}
+
+int AfxMessageBox(const CString& text, unsigned flags) {
+  return AfxMessageBox(text, CString(), flags);
 }

@@ -27,7 +27,7 @@ struct UiMessageBox {
     int id = IDOK;
     CString caption;
   };
-  CString caption;
+  CString caption; // empty: none of its own, see ShownCaption
   CString text;
   Icon icon = Icon::none;
   std::vector<Button> buttons; // at least one
@@ -37,5 +37,10 @@ struct UiMessageBox {
 // What flags ask for.
 UiMessageBox MakeMessageBox(const CString& text, const CString& caption, unsigned flags);
 
+// What front ends show above the text: the caption, or the program's name for a box without one.
+CString ShownCaption(const UiMessageBox& box);
+
 // Shows it and gives the id of the button. Without a front end the default button answers.
 int AfxMessageBox(const CString& text, const CString& caption, unsigned flags);
+// The same without a caption of its own.
+int AfxMessageBox(const CString& text, unsigned flags = MB_OK);

@@ -2,6 +2,7 @@
 
 #include "host/qt/QtText.h"
 #include "host/ui/CFormWnd.h"
+#include "host/ui/ObeyUser.h"
 
 #include <QToolTip>
 #include <QWidget>
@@ -52,7 +53,7 @@ void ControlView::obey(const std::function<UiOutcome()>& event) {
   if (m_syncing || m_context.top.HasEnded()) return;
   const std::weak_ptr<bool> alive = m_alive;
   const auto afterEvent = m_context.afterEvent;
-  const UiOutcome outcome = event();
+  const UiOutcome outcome = ObeyUser(event);
   if (!alive.expired() && !outcome) {
     show(); // what the widget shows of the refused event goes
     const QPoint below(0, m_widget->height());

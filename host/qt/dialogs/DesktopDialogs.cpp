@@ -114,7 +114,7 @@ void DesktopDialogs::WindowGone(CFormWnd& form) {
 }
 
 int DesktopDialogs::ShowMessageBox(const UiMessageBox& box) {
-  EdMessageBox asked{box.caption, box.text, {}, box.defaultButton};
+  EdMessageBox asked{ShownCaption(box), box.text, {}, box.defaultButton};
   for (const auto& button : box.buttons) asked.buttons.push_back(button.caption);
   if (const auto button = ScriptedAnswer(asked)) return box.buttons[*button].id;
   return ShowDialogBox(parent(), box);

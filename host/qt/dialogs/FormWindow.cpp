@@ -3,6 +3,7 @@
 #include "host/qt/QtText.h"
 #include "host/ui/CAcUiDockControlBar.h"
 #include "host/ui/CDialog.h"
+#include "host/ui/ObeyUser.h"
 
 #include <QBoxLayout>
 #include <QCloseEvent>
@@ -72,7 +73,10 @@ void DialogWindow::closeEvent(QCloseEvent* event) {
   event->ignore();
   if (!m_dialog) return;
   const auto after = m_afterEvent;
-  m_dialog->UserClose();
+  ObeyUser([this] {
+    m_dialog->UserClose();
+    return UiOutcome();
+  });
   if (after) after();
 }
 
@@ -81,14 +85,17 @@ void DialogWindow::keyPressEvent(QKeyEvent* event) {
   const auto after = m_afterEvent;
   switch (event->key()) {
   case Qt::Key_Escape:
-    m_dialog->UserEscape();
+    ObeyUser([this] {
+      m_dialog->UserEscape();
+      return UiOutcome();
+    });
     break;
   case Qt::Key_Return:
   case Qt::Key_Enter:
     if (auto* button = dynamic_cast<QPushButton*>(focusWidget()))
       button->click();
     else
-      m_dialog->UserEnter();
+      ObeyUser([this] { return m_dialog->UserEnter(); });
     break;
   default:
     QWidget::keyPressEvent(event);

@@ -70,7 +70,7 @@ int ShowDialogBox(QWidget* parent, const UiMessageBox& box) {
   if (box.icon == UiMessageBox::Icon::information) icon = QMessageBox::Information;
   if (box.icon == UiMessageBox::Icon::question) icon = QMessageBox::Question;
   if (box.icon == UiMessageBox::Icon::exclamation) icon = QMessageBox::Warning;
-  const int pressed = Show(parent, box.caption, box.text, icon, captions, box.defaultButton, escape);
+  const int pressed = Show(parent, ShownCaption(box), box.text, icon, captions, box.defaultButton, escape);
   return box.buttons[pressed < 0 ? box.defaultButton : static_cast<std::size_t>(pressed)].id;
 }
 

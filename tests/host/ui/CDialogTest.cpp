@@ -137,6 +137,15 @@ TEST_F(Dialogs, ForgetAControlThatGoes) {
   EXPECT_EQ(dialog.FocusControl(), nullptr);
 }
 
+TEST(MessageBoxes, WithoutACaptionShowTheProgramsName) {
+  UiFrontEndScript frontEnd;
+  EXPECT_EQ(AfxMessageBox(L"文字"), IDOK);
+  ASSERT_EQ(frontEnd.boxes.size(), 1u);
+  EXPECT_EQ(frontEnd.boxes[0].caption, L"");
+  EXPECT_EQ(ShownCaption(frontEnd.boxes[0]), L"zpcad");
+  EXPECT_EQ(ShownCaption(MakeMessageBox(L"文字", L"标题", MB_OK)), L"标题");
+}
+
 TEST(MessageBoxes, HaveTheButtonsAndTheIconOfTheirFlags) {
   const auto box = MakeMessageBox(L"文字", L"标题", MB_YESNOCANCEL | MB_ICONEXCLAMATION | MB_DEFBUTTON2);
   ASSERT_EQ(box.buttons.size(), 3u);
