@@ -35,6 +35,16 @@ void CDialog::EndDialog(int result) {
   Notify(UiChange::Kind::look);
 }
 
+void CDialog::BeginEditorCommand() {
+  ShowWindow(false);
+  if (auto* below = dynamic_cast<CDialog*>(m_parent)) below->BeginEditorCommand();
+}
+
+void CDialog::CompleteEditorCommand() {
+  if (auto* below = dynamic_cast<CDialog*>(m_parent)) below->CompleteEditorCommand();
+  ShowWindow(true);
+}
+
 void CDialog::UserClose() {
   if (HasEnded() || m_closing) return;
   m_closing = true;

@@ -23,10 +23,10 @@ class CDialog : public CFormWnd {
   int Result() const { return m_result; }
   bool IsClosing() const override { return m_closing; }
 
-  // Steps aside while the user works in the drawing, and comes back.
-  void BeginEditorCommand() { ShowWindow(false); }
-  void CompleteEditorCommand() { ShowWindow(true); }
-  void CancelEditorCommand() { ShowWindow(true); }
+  // Steps aside while the user works in the drawing, and comes back; so do the dialogs above which it is shown.
+  void BeginEditorCommand();
+  void CompleteEditorCommand();
+  void CancelEditorCommand() { CompleteEditorCommand(); }
 
   // --- what the user does
   // The close box. An edit that stands open is finished with IsClosing() set, and cannot be refused.

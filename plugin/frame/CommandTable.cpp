@@ -22,7 +22,6 @@ struct MissingCommand {
 constexpr MissingCommand kMissing[] = {
     {L"KOR_TCGLQ", L"图层管理器"},
     {L"KOR_CADTCKZ", L"当前CAD图纸图层管理"},
-    {L"KOR_FJPGGLQ", L"风机盘管数据管理"},
     {L"KOR_SRQJS", L"散热器片数计算"},
 };
 
@@ -66,7 +65,7 @@ constexpr VkCmdTable kTable[] = {
     {L"KOR_JSQBTC", ZP::UnLockedAllLayers, kFlags},
     {L"KOR_CADTCFZ", dialogs::LayerGroups, kFlags},
     ZP_MISSING_COMMAND(L"KOR_CADTCKZ"),
-    ZP_MISSING_COMMAND(L"KOR_FJPGGLQ"),
+    {L"KOR_FJPGGLQ", dialogs::FanCoils, kFlags},
     {L"KOR_FJPG_OLDTONEW", fancoil::ImportOldCatalogue, kFlags},
     {L"KOR_SRQ", dialogs::Radiators, kFlags},
     ZP_MISSING_COMMAND(L"KOR_SRQJS"),

@@ -1,6 +1,7 @@
 #include "plugin/frame/DialogCommands.h"
 
 #include "host/ed/acedWindows.h"
+#include "plugin/fancoil/dialogs/CKTFCUManagerDlg.h"
 #include "plugin/frame/CZPSystemSettingsDlg.h"
 #include "plugin/graph/ResourceBracket.h"
 #include "plugin/layers/dialogs/CCADGroupLayerDlg.h"
@@ -31,4 +32,10 @@ void dialogs::LayerGroups() {
 
 void dialogs::Radiators() {
   ZP::ShowRadMngDlg(nullptr);
+}
+
+void dialogs::FanCoils() {
+  const ResourceBracket bracket;
+  constexpr bool favourites = false;
+  CKTFCUManagerDlg(favourites, nullptr).DoModal();
 }

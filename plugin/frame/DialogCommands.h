@@ -9,5 +9,6 @@ void DuctMaterials();  // KOR_FGGJGLQ
 void SystemSettings(); // KOR_XTSZ
 void LayerGroups();    // KOR_CADTCFZ
 void Radiators();      // KOR_SRQ
+void FanCoils();       // KOR_FJPGGLQ
 
 } // namespace dialogs

@@ -63,7 +63,6 @@ TEST(CommandTable, TellsWhichCommandsAreMissing) {
   for (const VkCmdTable& row : CommandTable().subspan(16)) row.handler();
   EXPECT_EQ(editor.printed, L"\n命令 KOR_TCGLQ（图层管理器）尚未提供。\n"
                             L"\n命令 KOR_CADTCKZ（当前CAD图纸图层管理）尚未提供。\n"
-                            L"\n命令 KOR_FJPGGLQ（风机盘管数据管理）尚未提供。\n"
                             L"\n命令 KOR_SRQJS（散热器片数计算）尚未提供。\n");
 }
 

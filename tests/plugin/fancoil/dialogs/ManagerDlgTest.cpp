@@ -1,0 +1,650 @@
+// The manager of fan-coil units: what each event does to the tree, the views, the catalogue and the files.
+#include "plugin/fancoil/dialogs/BlockFiles.h"
+#include "tests/plugin/fancoil/dialogs/FanCoilDialogs.h"
+
+namespace {
+
+class FanCoilManagerDlg : public FanCoilDialogs {
+ protected:
+  FanCoilManagerDlg() { AddTwoMakers(); }
+};
+
+TEST_F(FanCoilManagerDlg, ClosesWhenTheWaterDatabaseCannotBeRead) {
+  std::filesystem::remove(install.Root() / "Data/KTSLDatabase.xml");
+  bool shown = false;
+  EXPECT_EQ(In([&](Dlg&) { shown = true; }), IDCANCEL);
+  EXPECT_FALSE(shown);
+  ASSERT_EQ(frontEnd.boxes.size(), 1u);
+  EXPECT_EQ(frontEnd.boxes[0].caption, L"青岚提示");
+  EXPECT_EQ(frontEnd.takeBox(), L"数据库打开失败。");
+  frontEnd.runs.clear();
+}
+
+TEST_F(FanCoilManagerDlg, ShowsMakersModelsAndTheFirstModel) {
+  In([&](Dlg& dialog) {
+    EXPECT_EQ(Outline(dialog.m_tree), L"风机盘管(甲([A] B C )乙(A ))");
+    EXPECT_TRUE(Item(dialog.m_tree, L"甲")->expanded);
+    EXPECT_FALSE(Item(dialog.m_tree, L"乙")->expanded);
+    EXPECT_EQ(Text(dialog.m_properties, L"设备型号"), L"A");
+    for (int i = 0; i < dialog.m_properties.GetItemCount(); ++i)
+      EXPECT_TRUE(dialog.m_properties.Item(i).readOnly);
+    EXPECT_TRUE(dialog.m_preview.GetDrawing());
+    EXPECT_EQ(dialog.m_install.GetText(), L"ALL");
+    EXPECT_EQ(dialog.m_structure.GetText(), L"ALL");
+    for (const CWnd* control : {static_cast<CWnd*>(&dialog.m_favourites), static_cast<CWnd*>(&dialog.m_take),
+                                static_cast<CWnd*>(&dialog.m_drop), static_cast<CWnd*>(&dialog.m_up),
+                                static_cast<CWnd*>(&dialog.m_down)})
+      EXPECT_FALSE(control->IsWindowVisible());
+    for (const CButton* button : {&dialog.m_add, &dialog.m_modify, &dialog.m_delete, &dialog.m_save})
+      EXPECT_TRUE(button->IsWindowVisible());
+  });
+}
+
+TEST_F(FanCoilManagerDlg, BeginsWithTheModelThatItIsGiven) {
+  Dlg named(L"乙", L"A", nullptr);
+  dialogtest::Run<Dlg>(frontEnd, named, [&](Dlg& dialog) {
+    EXPECT_EQ(Outline(dialog.m_tree), L"风机盘管(甲(A B C )乙([A] ))");
+    EXPECT_EQ(dialog.Equipment(), Find(L"A", L"乙"));
+  });
+  Dlg unknown(L"乙", L"Z", nullptr);
+  dialogtest::Run<Dlg>(frontEnd, unknown, [&](Dlg& dialog) {
+    EXPECT_EQ(Outline(dialog.m_tree), L"风机盘管(甲(A B C )乙(A ))");
+    EXPECT_EQ(Text(dialog.m_properties, L"设备型号"), L"");
+    EXPECT_FALSE(dialog.m_preview.GetDrawing());
+    EXPECT_TRUE(dialog.m_modify.UserClick());
+    EXPECT_TRUE(frontEnd.boxes.empty()) << "there is nothing to modify";
+  });
+  Dlg given(Find(L"C", L"甲"), nullptr);
+  dialogtest::Run<Dlg>(frontEnd, given, [&](Dlg& dialog) {
+    EXPECT_EQ(Outline(dialog.m_tree), L"风机盘管(甲(A B [C] )乙(A ))");
+  });
+}
+
+TEST_F(FanCoilManagerDlg, OpensOverAnEmptyCatalogue) {
+  Empty();
+  In([&](Dlg& dialog) {
+    EXPECT_EQ(Outline(dialog.m_tree), L"风机盘管 ");
+    EXPECT_FALSE(dialog.Equipment());
+    EXPECT_TRUE(dialog.m_delete.UserClick());
+    EXPECT_TRUE(dialog.m_tree.UserSelect(dialog.m_tree.GetRootItem()));
+    EXPECT_TRUE(dialog.m_delete.UserClick());
+    EXPECT_TRUE(dialog.m_ok.UserClick());
+  });
+  EXPECT_TRUE(frontEnd.boxes.empty());
+}
+
+TEST_F(FanCoilManagerDlg, LeavesOutEmptyPlacesOfTheCatalogue) {
+  catalogue.m_arrFactories.InsertAt(0, static_cast<CFCUFactory*>(nullptr));
+  first->m_arrEquipments.InsertAt(0, static_cast<CFCUEquipment*>(nullptr));
+  In([](Dlg& dialog) { EXPECT_EQ(Outline(dialog.m_tree), L"风机盘管(甲([A] B C )乙(A ))"); });
+}
+
+TEST_F(FanCoilManagerDlg, FiltersByMountingAndForm) {
+  In([&](Dlg& dialog) {
+    EXPECT_TRUE(dialog.m_tree.UserSelect(Item(dialog.m_tree, L"B")));
+    EXPECT_TRUE(dialog.m_install.UserType(L"明装"));
+    EXPECT_EQ(Outline(dialog.m_tree), L"风机盘管(甲([B] C )乙 )") << "makers stay without their models";
+    EXPECT_TRUE(dialog.m_structure.UserType(L"立式"));
+    EXPECT_EQ(Outline(dialog.m_tree), L"风机盘管(甲(C )乙 )");
+    EXPECT_EQ(Text(dialog.m_properties, L"设备型号"), L"B") << "the current model stays";
+    EXPECT_TRUE(Item(dialog.m_tree, L"甲")->expanded);
+    EXPECT_TRUE(dialog.m_install.UserType(L"ALL"));
+    EXPECT_TRUE(dialog.m_structure.UserType(L"ALL"));
+    EXPECT_EQ(Outline(dialog.m_tree), L"风机盘管(甲(A [B] C )乙(A ))");
+  });
+}
+
+TEST_F(FanCoilManagerDlg, RemembersTheFiltersWhenItSaves) {
+  In([](Dlg& dialog) {
+    EXPECT_TRUE(dialog.m_install.UserType(L"明装"));
+    EXPECT_TRUE(dialog.m_cancel.UserClick());
+  });
+  EXPECT_EQ(Remembered(kInstallKey), L"unset");
+  In([](Dlg& dialog) {
+    EXPECT_TRUE(dialog.m_install.UserType(L"明装"));
+    EXPECT_TRUE(dialog.m_save.UserClick());
+    EXPECT_FALSE(dialog.HasEnded());
+  });
+  EXPECT_EQ(Remembered(kInstallKey), L"明装");
+  EXPECT_EQ(Remembered(kStructKey), L"");
+  In([](Dlg& dialog) {
+    EXPECT_EQ(dialog.m_install.GetText(), L"明装");
+    EXPECT_EQ(dialog.m_structure.GetText(), L"ALL");
+    EXPECT_EQ(Outline(dialog.m_tree), L"风机盘管(甲(B C )乙 )");
+  });
+}
+
+TEST_F(FanCoilManagerDlg, ShowsAllWhereWhatIsRememberedIsNoStyle) {
+  for (const wchar_t* remembered : {L"", L"ALL", L"吊装"}) {
+    ZP::SetDefaultValue(kInstallKey, remembered);
+    In([&](Dlg& dialog) {
+      EXPECT_EQ(dialog.m_install.GetText(), L"ALL");
+      EXPECT_EQ(Outline(dialog.m_tree), L"风机盘管(甲([A] B C )乙(A ))");
+    });
+  }
+}
+
+TEST_F(FanCoilManagerDlg, ShowsAnItemOnlyIfItIsAModel) {
+  In([&](Dlg& dialog) {
+    EXPECT_TRUE(dialog.m_tree.UserSelect(Item(dialog.m_tree, L"C")));
+    EXPECT_EQ(Text(dialog.m_properties, L"结构形式"), L"立式");
+    EXPECT_EQ(dialog.Equipment(), Find(L"C", L"甲"));
+    for (const wchar_t* other : {L"乙", L"风机盘管"}) {
+      EXPECT_TRUE(dialog.m_tree.UserSelect(Item(dialog.m_tree, other)));
+      EXPECT_EQ(dialog.Equipment(), Find(L"C", L"甲"));
+      EXPECT_EQ(Text(dialog.m_properties, L"设备型号"), L"C");
+    }
+    EXPECT_TRUE(dialog.m_tree.UserDoubleClick(Item(dialog.m_tree, L"B")));
+    EXPECT_EQ(dialog.Equipment(), Find(L"B", L"甲"));
+  });
+}
+
+TEST_F(FanCoilManagerDlg, AddsAModelToTheMakerOfTheCurrentOne) {
+  In([&](Dlg& dialog) {
+    EXPECT_TRUE(dialog.m_tree.UserSelect(Item(dialog.m_tree, L"乙")->children[0].get()));
+    Next([&](AddDlg& add) {
+      EXPECT_EQ(add.GetCaption(), L"添加风机盘管");
+      EXPECT_EQ(Text(add.m_properties, L"厂家名称"), L"乙");
+      Set(add.m_properties, L"设备型号", L"N");
+      Set(add.m_properties, L"功率(W)", L"55");
+      EXPECT_TRUE(add.m_ok.UserClick());
+    });
+    EXPECT_TRUE(dialog.m_add.UserClick());
+    EXPECT_EQ(Outline(dialog.m_tree), L"风机盘管(甲(A B C )乙([A] N ))") << "the current model stays";
+  });
+  ASSERT_TRUE(Find(L"N", L"乙"));
+  EXPECT_EQ(Find(L"N", L"乙")->m_data.dbPower, 55);
+  EXPECT_EQ(Find(L"N", L"乙")->GetName(), L"N");
+  EXPECT_EQ(Find(L"N", L"乙")->GetParent(), second);
+  EXPECT_EQ(FileOutline(), L"") << "nobody has saved";
+}
+
+TEST_F(FanCoilManagerDlg, AddsAMakerWithItsFirstModel) {
+  In([&](Dlg& dialog) {
+    Next([&](AddDlg& add) {
+      Set(add.m_properties, L"厂家名称", L"丙");
+      Set(add.m_properties, L"设备型号", L"A");
+      EXPECT_TRUE(add.m_ok.UserClick());
+    });
+    EXPECT_TRUE(dialog.m_add.UserClick());
+    EXPECT_EQ(Outline(dialog.m_tree), L"风机盘管(甲([A] B C )乙(A )丙(A ))");
+    EXPECT_TRUE(dialog.m_save.UserClick());
+  });
+  EXPECT_EQ(FileOutline(), L"甲{A B C }乙{A }丙{A }");
+}
+
+TEST_F(FanCoilManagerDlg, AddsToAnEmptyCatalogue) {
+  Empty();
+  In([&](Dlg& dialog) {
+    Next([&](AddDlg& add) {
+      EXPECT_EQ(Text(add.m_properties, L"厂家名称"), L"");
+      Set(add.m_properties, L"设备型号", L"A");
+      EXPECT_TRUE(add.m_ok.UserClick());
+    });
+    EXPECT_TRUE(dialog.m_add.UserClick());
+    EXPECT_EQ(Outline(dialog.m_tree), L"风机盘管((A ))");
+  });
+  EXPECT_EQ(Outline(), L"{A }");
+}
+
+TEST_F(FanCoilManagerDlg, AddsNothingWhenTheUserCancels) {
+  In([&](Dlg& dialog) {
+    Next([&](AddDlg& add) {
+      Set(add.m_properties, L"设备型号", L"N");
+      EXPECT_TRUE(add.m_cancel.UserClick());
+    });
+    EXPECT_TRUE(dialog.m_add.UserClick());
+  });
+  EXPECT_EQ(Outline(), L"甲{A B C }乙{A }");
+}
+
+TEST_F(FanCoilManagerDlg, ShowsARenamedModelInTheTreeOnlyWhenItIsFilledAgain) {
+  CFCUEquipment* changed = Find(L"A", L"甲");
+  In([&](Dlg& dialog) {
+    Next([&](AddDlg& add) {
+      EXPECT_EQ(add.GetCaption(), L"修改风机盘管");
+      Set(add.m_properties, L"设备型号", L"A2");
+      Set(add.m_properties, L"噪音(dBa)", L"41");
+      EXPECT_TRUE(add.m_ok.UserClick());
+    });
+    EXPECT_TRUE(dialog.m_modify.UserClick());
+    EXPECT_EQ(Outline(dialog.m_tree), L"风机盘管(甲([A] B C )乙(A ))");
+    EXPECT_EQ(Text(dialog.m_properties, L"设备型号"), L"A2");
+    EXPECT_EQ(changed->GetName(), L"A2");
+    EXPECT_TRUE(dialog.m_install.UserType(L"ALL"));
+    EXPECT_EQ(Outline(dialog.m_tree), L"风机盘管(甲([A2] B C )乙(A ))");
+  });
+  EXPECT_EQ(changed->m_data.szMode, L"A2");
+  EXPECT_EQ(changed->m_data.dbNoiseLevel, 41);
+}
+
+TEST_F(FanCoilManagerDlg, KeepsTheChangesInMemoryWhenItIsCancelled) {
+  const auto modify = [&](const wchar_t* fan, const std::function<void(Dlg&)>& leave) {
+    In([&](Dlg& dialog) {
+      Next([&](AddDlg& add) {
+        Set(add.m_properties, L"风机形式", fan);
+        EXPECT_TRUE(add.m_ok.UserClick());
+      });
+      EXPECT_TRUE(dialog.m_modify.UserClick());
+      leave(dialog);
+    });
+  };
+  modify(L"离心", [](Dlg& dialog) { EXPECT_TRUE(dialog.m_cancel.UserClick()); });
+  EXPECT_EQ(Find(L"A", L"甲")->m_data.szFanStyle, L"离心");
+  // A later save of any dialog writes them.
+  In([](Dlg& dialog) { EXPECT_TRUE(dialog.m_ok.UserClick()); });
+  EXPECT_EQ(FileOutline(), L"甲{A B C }乙{A }");
+  EXPECT_EQ(Find(L"A", L"甲")->m_data.szFanStyle, L"离心");
+}
+
+TEST_F(FanCoilManagerDlg, ForgetsAChangeThatIsCancelled) {
+  In([&](Dlg& dialog) {
+    Next([&](AddDlg& add) {
+      Set(add.m_properties, L"设备型号", L"A2");
+      add.UserClose();
+    });
+    EXPECT_TRUE(dialog.m_modify.UserClick());
+    EXPECT_EQ(Text(dialog.m_properties, L"设备型号"), L"A");
+  });
+  EXPECT_EQ(Outline(), L"甲{A B C }乙{A }");
+}
+
+// A record may be moved to another maker only in its text: the model stays where it is.
+TEST_F(FanCoilManagerDlg, LeavesAModelWithItsMakerWhateverItsRecordSays) {
+  In([&](Dlg& dialog) {
+    Next([&](AddDlg& add) {
+      Set(add.m_properties, L"厂家名称", L"乙");
+      EXPECT_TRUE(add.m_ok.UserClick());
+    });
+    EXPECT_TRUE(dialog.m_modify.UserClick());
+    EXPECT_EQ(Outline(), L"甲{A B C }乙{A }");
+    EXPECT_TRUE(dialog.m_tree.UserSelect(Item(dialog.m_tree, L"甲")->children[0].get()));
+    frontEnd.answers = {IDOK};
+    EXPECT_TRUE(dialog.m_delete.UserClick());
+  });
+  EXPECT_EQ(Outline(), L"甲{B C }乙{A }");
+}
+
+TEST_F(FanCoilManagerDlg, AsksBeforeAModelIsDeleted) {
+  In([&](Dlg& dialog) {
+    EXPECT_TRUE(dialog.m_tree.UserSelect(Item(dialog.m_tree, L"B")));
+    EXPECT_TRUE(dialog.m_delete.UserClick());
+    ASSERT_EQ(frontEnd.boxes.size(), 1u);
+    EXPECT_EQ(frontEnd.boxes[0].caption, L"青岚提示");
+    EXPECT_EQ(frontEnd.boxes[0].buttons.size(), 2u);
+    EXPECT_EQ(frontEnd.takeBox(), L"删除不可恢复，确定要删除[B]吗？");
+    EXPECT_EQ(Outline(), L"甲{A B C }乙{A }");
+    frontEnd.answers = {IDOK};
+    EXPECT_TRUE(dialog.m_delete.UserClick());
+    EXPECT_EQ(Outline(), L"甲{A C }乙{A }");
+    EXPECT_EQ(Outline(dialog.m_tree), L"风机盘管(甲(A C )乙(A ))");
+  });
+}
+
+TEST_F(FanCoilManagerDlg, GoesOnShowingADeletedModelUntilAnotherIsSelected) {
+  In([&](Dlg& dialog) {
+    frontEnd.answers = {IDOK};
+    EXPECT_TRUE(dialog.m_delete.UserClick());
+    EXPECT_EQ(Text(dialog.m_properties, L"设备型号"), L"A");
+    EXPECT_FALSE(dialog.Equipment());
+    EXPECT_TRUE(dialog.m_modify.UserClick()) << "there is nothing left to modify";
+    frontEnd.boxes.clear();
+    EXPECT_TRUE(dialog.m_delete.UserClick());
+    EXPECT_TRUE(frontEnd.boxes.empty()) << "and nothing to delete";
+    Next([&](AddDlg& add) {
+      EXPECT_EQ(Text(add.m_properties, L"厂家名称"), L"甲") << "the maker of the model on show";
+      Set(add.m_properties, L"设备型号", L"N");
+      EXPECT_TRUE(add.m_ok.UserClick());
+    });
+    EXPECT_TRUE(dialog.m_add.UserClick());
+    EXPECT_FALSE(dialog.Equipment());
+    EXPECT_TRUE(dialog.m_tree.UserSelect(Item(dialog.m_tree, L"C")));
+    EXPECT_EQ(dialog.Equipment(), Find(L"C", L"甲"));
+  });
+  EXPECT_EQ(Outline(), L"甲{B C N }乙{A }");
+}
+
+TEST_F(FanCoilManagerDlg, DeletesAMakerWithItsModels) {
+  In([&](Dlg& dialog) {
+    EXPECT_TRUE(dialog.m_tree.UserSelect(Item(dialog.m_tree, L"甲")));
+    frontEnd.answers = {IDOK, IDOK};
+    EXPECT_TRUE(dialog.m_delete.UserClick());
+    EXPECT_EQ(frontEnd.takeBox(), L"删除不可恢复，确定要删除[甲]吗？");
+    EXPECT_EQ(Outline(), L"乙{A }");
+    EXPECT_EQ(Outline(dialog.m_tree), L"风机盘管(乙(A ))");
+    EXPECT_EQ(Text(dialog.m_properties, L"设备型号"), L"A") << "it stays on show";
+    EXPECT_FALSE(dialog.Equipment());
+    EXPECT_TRUE(dialog.m_tree.UserSelect(Item(dialog.m_tree, L"乙")));
+    EXPECT_TRUE(dialog.m_delete.UserClick());
+    EXPECT_TRUE(dialog.m_ok.UserClick());
+  });
+  EXPECT_EQ(FileOutline(), L"");
+}
+
+TEST_F(FanCoilManagerDlg, DoesNothingToTheRoot) {
+  In([&](Dlg& dialog) {
+    EXPECT_TRUE(dialog.m_tree.UserSelect(dialog.m_tree.GetRootItem()));
+    EXPECT_TRUE(dialog.m_delete.UserClick());
+  });
+  EXPECT_TRUE(frontEnd.boxes.empty());
+  EXPECT_EQ(Outline(), L"甲{A B C }乙{A }");
+}
+
+TEST_F(FanCoilManagerDlg, DeletesAFilteredMakerWithTheModelsThatAreNotShown) {
+  In([&](Dlg& dialog) {
+    EXPECT_TRUE(dialog.m_structure.UserType(L"立式"));
+    EXPECT_TRUE(dialog.m_tree.UserSelect(Item(dialog.m_tree, L"乙")));
+    frontEnd.answers = {IDOK};
+    EXPECT_TRUE(dialog.m_delete.UserClick());
+  });
+  EXPECT_EQ(Outline(), L"甲{A B C }");
+}
+
+TEST_F(FanCoilManagerDlg, SavesWithoutAWordAlsoWhereItCannot) {
+  install.Write("Data/KTSLDatabase.xml", R"(<dictionary/>)");
+  std::filesystem::remove(install.Root() / kFile);
+  std::filesystem::create_directories(install.Root() / kFile); // where the file should be
+  EXPECT_EQ(In([](Dlg& dialog) { EXPECT_TRUE(dialog.m_ok.UserClick()); }), IDOK);
+  EXPECT_TRUE(frontEnd.boxes.empty());
+}
+
+TEST_F(FanCoilManagerDlg, ReadsOnlyForSiblings) {
+  int depth = -1;
+  frontEnd.runs = {[&](CDialog& open) {
+    auto& dialog = static_cast<Dlg&>(open);
+    depth = static_cast<int>(acDocManagerPtr()->resourceDepth());
+    for (CButton* button : {&dialog.m_add, &dialog.m_modify, &dialog.m_delete, &dialog.m_save}) {
+      EXPECT_FALSE(button->IsWindowVisible());
+      EXPECT_FALSE(button->UserClick());
+    }
+    Find(L"A", L"甲")->SetName(L"in memory");
+    EXPECT_TRUE(dialog.m_install.UserType(L"明装"));
+    EXPECT_TRUE(dialog.m_ok.UserClick());
+  }};
+  EXPECT_EQ(ZP::ShowFCUMngDlg(nullptr), IDOK);
+  EXPECT_EQ(depth, 1);
+  EXPECT_EQ(acDocManagerPtr()->resourceDepth(), 0u);
+  EXPECT_EQ(Remembered(kInstallKey), L"明装");
+  EXPECT_EQ(FileOutline(), L"") << "the catalogue isn't written";
+  frontEnd.runs = {[&](CDialog& open) { open.UserEscape(); }};
+  EXPECT_EQ(ZP::ShowFCUMngDlg(nullptr), IDCANCEL);
+}
+
+TEST_F(FanCoilManagerDlg, PicksAModelForSiblings) {
+  CFCUEquipment* equipment = Find(L"B", L"甲");
+  frontEnd.runs = {[&](CDialog& open) {
+    auto& dialog = static_cast<Dlg&>(open);
+    EXPECT_EQ(Outline(dialog.m_tree), L"风机盘管(甲(A [B] C )乙(A ))");
+    EXPECT_FALSE(dialog.m_save.IsWindowVisible());
+    EXPECT_TRUE(dialog.m_tree.UserSelect(Item(dialog.m_tree, L"C")));
+    EXPECT_TRUE(dialog.UserEnter());
+  }};
+  EXPECT_EQ(ZP::ShowFCUMngDlg(equipment, nullptr), 1);
+  EXPECT_EQ(equipment, Find(L"C", L"甲"));
+  frontEnd.runs = {[&](CDialog& open) {
+    EXPECT_TRUE(static_cast<Dlg&>(open).m_tree.UserSelect(Item(static_cast<Dlg&>(open).m_tree, L"A")));
+    open.UserClose();
+  }};
+  EXPECT_EQ(ZP::ShowFCUMngDlg(equipment, nullptr), 0);
+  EXPECT_EQ(equipment, Find(L"C", L"甲"));
+  equipment = nullptr;
+  frontEnd.runs = {[](CDialog& open) { EXPECT_TRUE(open.UserEnter()); }};
+  EXPECT_EQ(ZP::ShowFCUMngDlg(equipment, nullptr), 0) << "nothing is selected";
+  EXPECT_EQ(equipment, nullptr);
+}
+
+TEST_F(FanCoilManagerDlg, GivesMinusOneWhereNothingCanBeShown) {
+  UiFrontEnd::Set(nullptr);
+  CFCUEquipment* equipment = Find(L"B", L"甲");
+  EXPECT_EQ(ZP::ShowFCUMngDlg(nullptr), -1);
+  EXPECT_EQ(ZP::ShowFCUMngDlg(equipment, nullptr), 0);
+  EXPECT_EQ(ZP::ShowCommonFCUMngDlg(equipment), -1);
+  EXPECT_EQ(equipment, Find(L"B", L"甲"));
+  UiFrontEnd::Set(&frontEnd);
+}
+
+TEST_F(FanCoilManagerDlg, WorksWithoutADrawing) {
+  acDocManagerPtr()->closeAll();
+  In([&](Dlg& dialog) {
+    EXPECT_FALSE(dialog.m_preview.IsWindowEnabled());
+    EXPECT_TRUE(dialog.m_tree.UserSelect(Item(dialog.m_tree, L"C")));
+    EXPECT_TRUE(dialog.m_ok.UserClick());
+  });
+}
+
+TEST_F(FanCoilManagerDlg, BeginsWithACatalogueFileThatIsThere) {
+  std::filesystem::remove(install.Root() / kFile);
+  In([&](Dlg&) { EXPECT_TRUE(install.Has(kFile)); });
+  In([&](Dlg& dialog) {
+    std::filesystem::remove(install.Root() / kFile);
+    Next([&](AddDlg&) { EXPECT_TRUE(install.Has(kFile)); });
+    EXPECT_TRUE(dialog.m_add.UserClick());
+  });
+}
+
+// --- blocks
+
+TEST_F(FanCoilManagerDlg, RegistersABlockThatWasMadeForAsLongAsItIsOpen) {
+  Draw();
+  In([&](Dlg& dialog) {
+    TypePick();
+    Next([&](AddDlg& add) {
+      Set(add.m_properties, L"设备型号", L"N");
+      EXPECT_TRUE(add.m_pick.UserClick());
+      EXPECT_TRUE(add.m_ok.UserClick());
+    });
+    EXPECT_TRUE(dialog.m_add.UserClick());
+    AcGePoint3d label;
+    dialog.Operation().GetFCUBzInsertPoint(L"FJPG1", label);
+    EXPECT_EQ(label, AcGePoint3d(10, 5, 0));
+  });
+  ASSERT_TRUE(Find(L"N", L"甲"));
+  EXPECT_EQ(Find(L"N", L"甲")->m_data.szDwgPath, L"FJPG1");
+  EXPECT_EQ(Find(L"N", L"甲")->m_data.dbCadLength, 60);
+  EXPECT_EQ(Find(L"N", L"甲")->m_data.dbCadWidth, 30);
+  In([&](Dlg& dialog) {
+    AcGePoint3d label(1, 2, 3);
+    dialog.Operation().GetFCUBzInsertPoint(L"FJPG1", label);
+    EXPECT_EQ(label, AcGePoint3d(1, 2, 3)) << "nothing of it is on the disk";
+  });
+}
+
+TEST_F(FanCoilManagerDlg, ShowsTheBlockOfAChangedModelFromItsFile) {
+  Draw();
+  In([&](Dlg& dialog) {
+    TypePick();
+    Next([&](AddDlg& add) {
+      Set(add.m_properties, L"图块名", L"我的图块");
+      EXPECT_TRUE(add.m_pick.UserClick());
+      EXPECT_FALSE(dialog.m_preview.GetDrawing() == add.m_preview.GetDrawing());
+      EXPECT_TRUE(add.m_ok.UserClick());
+    });
+    EXPECT_TRUE(dialog.m_modify.UserClick());
+    ASSERT_TRUE(dialog.m_preview.GetDrawing());
+    EXPECT_EQ(dialog.m_preview.GetDrawing()->fileName(), fancoil::BlockFile(L"我的图块"));
+    AcGePoint3d label;
+    dialog.Operation().GetFCUBzInsertPoint(L"我的图块", label);
+    EXPECT_EQ(label, AcGePoint3d(10, 5, 0));
+  });
+}
+
+// --- favourites
+
+class FanCoilFavouritesDlg : public FanCoilManagerDlg {
+ protected:
+  FanCoilFavouritesDlg() { ZP::SetDefaultValue(kListKey, L"B|甲;A|乙;"); }
+};
+
+TEST_F(FanCoilFavouritesDlg, ShowsWhatIsRemembered) {
+  InFavourites([&](Dlg& dialog) {
+    EXPECT_EQ(Entries(dialog.m_favourites), L"B|甲 A|乙 ");
+    EXPECT_EQ(Outline(dialog.m_tree), L"风机盘管(甲([A] B C )乙(A ))");
+    for (const CButton* button : {&dialog.m_add, &dialog.m_modify, &dialog.m_delete, &dialog.m_save})
+      EXPECT_FALSE(button->IsWindowVisible());
+    for (const CButton* button : {&dialog.m_take, &dialog.m_drop, &dialog.m_up, &dialog.m_down})
+      EXPECT_TRUE(button->IsWindowVisible());
+  });
+}
+
+TEST_F(FanCoilFavouritesDlg, BeginsWithTheFirstModelsWhereNothingIsLeft) {
+  for (const wchar_t* remembered : {L"", L"B|甲", L"D|甲;X;"}) {
+    ZP::SetDefaultValue(kListKey, remembered);
+    InFavourites([&](Dlg& dialog) { EXPECT_EQ(Entries(dialog.m_favourites), L"A|甲 B|甲 C|甲 A|乙 "); });
+  }
+}
+
+TEST_F(FanCoilFavouritesDlg, ShowsTheModelOfAFavourite) {
+  InFavourites([&](Dlg& dialog) {
+    EXPECT_TRUE(dialog.m_favourites.UserSelect(1));
+    EXPECT_EQ(dialog.Equipment(), Find(L"A", L"乙"));
+    EXPECT_EQ(Outline(dialog.m_tree), L"风机盘管(甲(A B C )乙([A] ))");
+    EXPECT_EQ(Text(dialog.m_properties, L"厂家名称"), L"乙");
+    EXPECT_TRUE(dialog.m_install.UserType(L"明装"));
+    EXPECT_TRUE(dialog.m_favourites.UserSelect(1));
+    EXPECT_EQ(Outline(dialog.m_tree), L"风机盘管(甲(B C )乙 )") << "the filter hides it";
+    EXPECT_EQ(dialog.Equipment(), Find(L"A", L"乙"));
+  });
+}
+
+TEST_F(FanCoilFavouritesDlg, ShowsNothingForAFavouriteThatIsNoModel) {
+  AddFactory(L"丙");
+  InFavourites([&](Dlg& dialog) {
+    EXPECT_TRUE(dialog.m_tree.UserSelect(Item(dialog.m_tree, L"丙")));
+    EXPECT_TRUE(dialog.m_take.UserClick());
+    EXPECT_EQ(Entries(dialog.m_favourites), L"B|甲 A|乙 丙 ")
+        << "a maker without models, and no maker behind";
+    EXPECT_TRUE(dialog.m_favourites.UserSelect(2));
+    EXPECT_FALSE(dialog.Equipment());
+    EXPECT_FALSE(dialog.m_tree.GetSelectedItem());
+    EXPECT_EQ(Text(dialog.m_properties, L"设备型号"), L"");
+    EXPECT_FALSE(dialog.m_preview.GetDrawing());
+    EXPECT_TRUE(dialog.m_ok.UserClick());
+  });
+  EXPECT_EQ(Remembered(kListKey), L"B|甲;A|乙;丙;");
+  InFavourites([&](Dlg& dialog) { EXPECT_EQ(Entries(dialog.m_favourites), L"B|甲 A|乙 "); });
+}
+
+TEST_F(FanCoilFavouritesDlg, TakesAModelOfTheTree) {
+  InFavourites([&](Dlg& dialog) {
+    EXPECT_TRUE(dialog.m_tree.UserSelect(Item(dialog.m_tree, L"C")));
+    EXPECT_TRUE(dialog.m_take.UserClick());
+    EXPECT_EQ(Entries(dialog.m_favourites), L"B|甲 A|乙 C|甲 ");
+    EXPECT_TRUE(dialog.m_tree.UserDoubleClick(Item(dialog.m_tree, L"A")));
+    EXPECT_EQ(Entries(dialog.m_favourites), L"B|甲 A|乙 C|甲 A|甲 ");
+    EXPECT_TRUE(frontEnd.boxes.empty());
+    EXPECT_TRUE(dialog.m_take.UserClick());
+    ASSERT_EQ(frontEnd.boxes.size(), 1u);
+    EXPECT_EQ(frontEnd.boxes[0].caption, L"青岚提示");
+    EXPECT_EQ(frontEnd.takeBox(), L"所选择的风机盘管已经在常用风机盘管列表中!");
+    EXPECT_EQ(Entries(dialog.m_favourites), L"B|甲 A|乙 C|甲 A|甲 ");
+  });
+}
+
+TEST_F(FanCoilFavouritesDlg, TakesNothingThatHasChildrenAndNothingAtAll) {
+  InFavourites([&](Dlg& dialog) {
+    for (const wchar_t* text : {L"甲", L"风机盘管"}) {
+      EXPECT_TRUE(dialog.m_tree.UserSelect(Item(dialog.m_tree, text)));
+      EXPECT_TRUE(dialog.m_take.UserClick());
+      EXPECT_TRUE(dialog.m_tree.UserDoubleClick(Item(dialog.m_tree, text)));
+    }
+    EXPECT_TRUE(dialog.m_install.UserType(L"明装"));
+    EXPECT_FALSE(dialog.m_tree.GetSelectedItem());
+    EXPECT_TRUE(dialog.m_take.UserClick());
+    EXPECT_EQ(Entries(dialog.m_favourites), L"B|甲 A|乙 ");
+  });
+  EXPECT_TRUE(frontEnd.boxes.empty());
+}
+
+TEST_F(FanCoilFavouritesDlg, DoubleClicksTakeNothingWithoutThePanel) {
+  In([&](Dlg& dialog) { EXPECT_TRUE(dialog.m_tree.UserDoubleClick(Item(dialog.m_tree, L"C"))); });
+  EXPECT_EQ(Remembered(kListKey), L"B|甲;A|乙;");
+}
+
+TEST_F(FanCoilFavouritesDlg, DropsAFavouriteAndGoesOnWithTheNext) {
+  ZP::SetDefaultValue(kListKey, L"A|甲;B|甲;A|乙;");
+  InFavourites([&](Dlg& dialog) {
+    EXPECT_TRUE(dialog.m_drop.UserClick());
+    EXPECT_EQ(Entries(dialog.m_favourites), L"A|甲 B|甲 A|乙 ") << "nothing is selected";
+    EXPECT_TRUE(dialog.m_favourites.UserSelect(1));
+    EXPECT_TRUE(dialog.m_drop.UserClick());
+    EXPECT_EQ(Entries(dialog.m_favourites), L"A|甲 [A|乙] ");
+    EXPECT_EQ(dialog.Equipment(), Find(L"A", L"乙")) << "what is selected is shown";
+    EXPECT_TRUE(dialog.m_drop.UserClick());
+    EXPECT_EQ(Entries(dialog.m_favourites), L"[A|甲] ") << "or the last";
+    EXPECT_TRUE(dialog.m_drop.UserClick());
+    EXPECT_EQ(Entries(dialog.m_favourites), L"");
+    EXPECT_TRUE(dialog.m_drop.UserClick());
+  });
+}
+
+TEST_F(FanCoilFavouritesDlg, MovesFavouritesButNotPastTheEnds) {
+  ZP::SetDefaultValue(kListKey, L"A|甲;B|甲;A|乙;");
+  InFavourites([&](Dlg& dialog) {
+    EXPECT_TRUE(dialog.m_up.UserClick());
+    EXPECT_TRUE(dialog.m_favourites.UserSelect(0));
+    EXPECT_TRUE(dialog.m_up.UserClick());
+    EXPECT_EQ(Entries(dialog.m_favourites), L"[A|甲] B|甲 A|乙 ");
+    EXPECT_TRUE(dialog.m_down.UserClick());
+    EXPECT_EQ(Entries(dialog.m_favourites), L"B|甲 [A|甲] A|乙 ");
+    EXPECT_TRUE(dialog.m_down.UserClick());
+    EXPECT_TRUE(dialog.m_down.UserClick());
+    EXPECT_EQ(Entries(dialog.m_favourites), L"B|甲 A|乙 [A|甲] ");
+    EXPECT_TRUE(dialog.m_up.UserClick());
+    EXPECT_EQ(Entries(dialog.m_favourites), L"B|甲 [A|甲] A|乙 ");
+    EXPECT_TRUE(dialog.m_ok.UserClick());
+  });
+  EXPECT_EQ(Remembered(kListKey), L"B|甲;A|甲;A|乙;");
+}
+
+TEST_F(FanCoilFavouritesDlg, StaysOpenWithAnEmptyList) {
+  const int result = InFavourites([&](Dlg& dialog) {
+    EXPECT_TRUE(dialog.m_favourites.UserSelect(0));
+    EXPECT_TRUE(dialog.m_drop.UserClick());
+    EXPECT_TRUE(dialog.m_drop.UserClick());
+    EXPECT_TRUE(dialog.m_install.UserType(L"暗装"));
+    EXPECT_TRUE(dialog.m_ok.UserClick());
+    ASSERT_EQ(frontEnd.boxes.size(), 1u);
+    EXPECT_EQ(frontEnd.boxes[0].caption, L"青岚提示");
+    EXPECT_EQ(frontEnd.takeBox(), L"常用风机盘管列表不能为空!");
+    EXPECT_FALSE(dialog.HasEnded());
+    EXPECT_EQ(Remembered(kListKey), L"B|甲;A|乙;") << "the list is not written";
+    EXPECT_EQ(Remembered(kInstallKey), L"暗装") << "the filters are";
+    EXPECT_TRUE(dialog.m_tree.UserSelect(Item(dialog.m_tree, L"A")));
+    EXPECT_TRUE(dialog.m_take.UserClick());
+    EXPECT_TRUE(dialog.m_ok.UserClick());
+    EXPECT_TRUE(dialog.HasEnded());
+  });
+  EXPECT_EQ(result, IDOK);
+  EXPECT_EQ(Remembered(kListKey), L"A|甲;");
+}
+
+TEST_F(FanCoilFavouritesDlg, LeavesListAndCatalogueFileAloneWhenItIsCancelled) {
+  EXPECT_EQ(InFavourites([&](Dlg& dialog) {
+              EXPECT_TRUE(dialog.m_favourites.UserSelect(0));
+              EXPECT_TRUE(dialog.m_drop.UserClick());
+              EXPECT_TRUE(dialog.m_cancel.UserClick());
+            }),
+            IDCANCEL);
+  EXPECT_EQ(Remembered(kListKey), L"B|甲;A|乙;");
+}
+
+TEST_F(FanCoilFavouritesDlg, PicksForSiblings) {
+  CFCUEquipment* equipment = nullptr;
+  frontEnd.runs = {[&](CDialog& open) {
+    EXPECT_EQ(open.GetParent(), nullptr);
+    EXPECT_EQ(acDocManagerPtr()->resourceDepth(), 1u);
+    EXPECT_TRUE(static_cast<Dlg&>(open).m_favourites.UserSelect(0));
+    EXPECT_TRUE(open.UserEnter());
+  }};
+  EXPECT_EQ(ZP::ShowCommonFCUMngDlg(equipment), IDOK);
+  EXPECT_EQ(equipment, Find(L"B", L"甲"));
+  frontEnd.runs = {[&](CDialog& open) {
+    EXPECT_TRUE(static_cast<Dlg&>(open).m_favourites.UserSelect(1));
+    open.UserEscape();
+  }};
+  EXPECT_EQ(ZP::ShowCommonFCUMngDlg(equipment), IDCANCEL);
+  EXPECT_EQ(equipment, Find(L"B", L"甲"));
+  EXPECT_EQ(FileOutline(), L"") << "the catalogue isn't written";
+}
+
+} // namespace
