@@ -23,7 +23,8 @@ class CDialog : public CFormWnd {
   int Result() const { return m_result; }
   bool IsClosing() const override { return m_closing; }
 
-  // Steps aside while the user works in the drawing, and comes back; so do the dialogs above which it is shown.
+  // Steps aside while the user works in the drawing, and comes back; so do the dialogs above which it is
+  // shown.
   void BeginEditorCommand();
   void CompleteEditorCommand();
   void CancelEditorCommand() { CompleteEditorCommand(); }

@@ -112,6 +112,22 @@ TEST_F(Dialogs, RestWhileTheUserWorksInTheDrawing) {
   EXPECT_EQ(dialog.DoModal(), IDOK);
 }
 
+TEST_F(Dialogs, TakeThoseBelowThemAlongWhileTheUserWorksInTheDrawing) {
+  CDialog below(L"下"), above(L"上", &below);
+  std::vector<CString> shown;
+  const auto watch = [&](CDialog& watched) {
+    return watched.Changed.Watch([&](const UiChange&) {
+      if (watched.IsWindowVisible()) shown.push_back(watched.GetCaption());
+    });
+  };
+  const UiConnection watches[] = {watch(below), watch(above)};
+  above.BeginEditorCommand();
+  EXPECT_FALSE(above.IsWindowVisible());
+  EXPECT_FALSE(below.IsWindowVisible());
+  above.CancelEditorCommand();
+  EXPECT_EQ(shown, (std::vector<CString>{L"下", L"上"})) << "the upper one comes last, and thus on top";
+}
+
 TEST_F(Dialogs, TellTheFrontEndThatTheyAreGone) {
   const CFormWnd* gone = nullptr;
   {
