@@ -5,7 +5,10 @@
 #include "plugin/frame/CZPSystemSettingsDlg.h"
 #include "plugin/graph/DrawingSettings.h"
 #include "plugin/pipes/CZPPipeMaterialManager.h"
+#include "plugin/resistance/CZPLocalResistanceSettings.h"
+#include "plugin/resistance/dialogs/ShowResistanceDialogs.h"
 #include "tests/host/qt/PlugInDialogs.h"
+#include "tests/plugin/resistance/ShippedStore.h"
 
 #include <random>
 
@@ -106,6 +109,28 @@ TEST_P(RandomClicks, KeepSettingsThatCanBe) {
   play([] { return static_cast<int>(CZPSystemSettingsDlg(nullptr).DoModal()); });
   EXPECT_GT(ZP::GetOutDwgScale(), 0);
   EXPECT_GT(ZP::GetZwZg(), 0);
+}
+
+TEST_P(RandomClicks, KeepCoefficientsAsTheyAreShown) {
+  auto& store = StoreOfShippedData(install);
+  play([] { return ZP::ShowLRMDlg(nullptr); });
+  store.SaveData();
+  FreshStore again;
+  int row = 0; // those without a name are not read again
+  for (const CZPPipePartsCoe& fitting : store.m_arrPartsCoe) {
+    if (fitting.szName.IsEmpty()) continue;
+    ASSERT_LT(row, again->m_arrPartsCoe.GetSize());
+    EXPECT_EQ(again->m_arrPartsCoe[row++].szName, fitting.szName);
+  }
+  EXPECT_EQ(again->m_arrPartsCoe.GetSize(), row);
+}
+
+TEST_P(RandomClicks, KeepEachFittingOfASectionOnce) {
+  StoreOfShippedData(install);
+  CZPLocalResistanceSettings section;
+  play([&] { return ZP::ShowLRSDlg(section, nullptr); });
+  for (int i = 0; i < section.m_arrParts.GetSize(); ++i)
+    EXPECT_EQ(section.FindPipeParts(section.m_arrParts[i].GetName()), i) << "each name in one row";
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, RandomClicks, testing::Range(1u, 4u));
