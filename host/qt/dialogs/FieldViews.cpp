@@ -10,9 +10,11 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMouseEvent>
 #include <QPlainTextEdit>
 
 #include <algorithm>
+#include <functional>
 
 namespace desktop {
 namespace {
@@ -171,6 +173,16 @@ class ListOfEntries : public QListWidget {
     return {kListWidth, std::clamp(count(), fewest, most) * entry + 2 * frameWidth() + 2};
   }
   QSize minimumSizeHint() const override { return {kFieldWidth, sizeHint().height()}; }
+  // The entry that is current was clicked, which is no change to the widget.
+  std::function<void(int)> clickedAgain;
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override {
+    const QListWidgetItem* item = itemAt(event->position().toPoint());
+    const bool again = item && item == currentItem() && event->button() == Qt::LeftButton;
+    QListWidget::mousePressEvent(event);
+    if (again) clickedAgain(currentRow());
+  }
 };
 
 class ListView : public ControlView {
@@ -181,6 +193,7 @@ class ListView : public ControlView {
     QObject::connect(m_shown, &QListWidget::currentRowChanged, [this](int row) {
       if (row >= 0) obey([this, row] { return m_list.UserSelect(row); });
     });
+    m_shown->clickedAgain = [this](int row) { obey([this, row] { return m_list.UserSelect(row); }); };
     QObject::connect(m_shown, &QListWidget::itemDoubleClicked, [this](QListWidgetItem* item) {
       obey([this, row = m_shown->row(item)] { return m_list.UserDoubleClick(row); });
     });

@@ -55,7 +55,7 @@ void CKTFCUManagerAddDlg::OnInitDialog() {
   m_preview.ShowBlock(m_data.szDwgPath);
 }
 
-// Of a change one model with that block is the changed one itself.
+// Of a change, one model with that block is taken for the changed one, whatever block that had before.
 bool CKTFCUManagerAddDlg::MayTakeBlockName() const {
   const int own = m_task == Task::change ? 1 : 0;
   if (fancoil::CountModelsOfBlock(m_catalogue, m_data.szDwgPath) <= own) return true;

@@ -75,6 +75,19 @@ TEST_F(DialogView, ChoosesInDropDownListsAndLists) {
   EXPECT_EQ(CString(L"丑"), dialog.names.SelectedText());
 }
 
+TEST_F(DialogView, TellsOfAClickOnTheEntryThatIsSelectedAlready) {
+  std::vector<int> chosen;
+  dialog.names.SelectionChanged.Connect([&] { chosen.push_back(dialog.names.GetCurSel()); });
+  const auto clickRow = [](int row) {
+    return [=] {
+      auto& list = find<QListWidget>("列表");
+      QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(list.item(row)).center());
+    };
+  };
+  show({clickRow(1), clickRow(1), clickRow(0)});
+  EXPECT_EQ(chosen, (std::vector<int>{1, 1, 0})) << "once for each click";
+}
+
 TEST_F(DialogView, TicksAndChoosesOneOfSeveral) {
   show({[&] { QTest::keyClick(&find<QCheckBox>("勾选"), Qt::Key_Space); },
         [&] {

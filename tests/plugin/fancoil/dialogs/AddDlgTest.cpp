@@ -185,6 +185,14 @@ TEST_F(FanCoilAddDlg, AsksBeforeABlockOfOthersIsMadeAnew) {
     EXPECT_TRUE(dialog.HasBlock());
     EXPECT_TRUE(frontEnd.boxes.empty());
   });
+  // Nor does a single other one, whose name it takes.
+  InChange(*Find(L"B", L"甲"), [&](AddDlg& dialog) {
+    Set(dialog.m_properties, L"图块名", L"FJPG3");
+    TypePick();
+    EXPECT_TRUE(dialog.m_pick.UserClick());
+    EXPECT_TRUE(dialog.HasBlock());
+    EXPECT_TRUE(frontEnd.boxes.empty());
+  });
   Find(L"A", L"乙")->m_data.szDwgPath = L"FJPG3";
   InChange(own, [&](AddDlg& dialog) {
     EXPECT_TRUE(dialog.m_pick.UserClick());
