@@ -5,13 +5,26 @@
 #include "host/ed/EdSession.h"
 #include "host/ui/CDialog.h"
 
+namespace {
+
+// What stands before each line that is typed in the dialog: a title that says much says it once.
+CString PromptOf(const CDialog& dialog) {
+  constexpr int most = 20; // characters
+  const CString title = console::PlainName(dialog.GetCaption());
+  if (title.GetLength() <= most) return title + L":";
+  const int bracket = title.FindOneOf(L"(（");
+  return (bracket > 0 && bracket <= most ? title.Left(bracket) : title.Left(most) + L"…") + L":";
+}
+
+} // namespace
+
 void ConsoleDialogs::RunModal(CDialog& dialog) {
   auto& session = EdSession::instance();
   const EdInput::UserOnly userOnly(session.input());
   const CString title = console::PlainName(dialog.GetCaption());
   m_frontEnd.print(L"\n对话框：" + title + L"\n");
   while (!dialog.HasEnded()) {
-    const auto line = session.input().read(console::PlainName(dialog.GetCaption()) + L":");
+    const auto line = session.input().read(PromptOf(dialog));
     if (!line) break;
     console::ObeyModalLine(dialog, line->text);
   }

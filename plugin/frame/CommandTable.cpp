@@ -20,7 +20,6 @@ struct MissingCommand {
 };
 
 constexpr MissingCommand kMissing[] = {
-    {L"KOR_TCGLQ", L"图层管理器"},
     {L"KOR_CADTCKZ", L"当前CAD图纸图层管理"},
     {L"KOR_SRQJS", L"散热器片数计算"},
 };
@@ -51,7 +50,7 @@ constexpr VkCmdTable kTable[] = {
     {L"KOR_LSGLQ", dialogs::VelocityLimits, kFlags},
     {L"KOR_FGGJGLQ", dialogs::DuctMaterials, kFlags},
     {L"KOR_XTSZ", dialogs::SystemSettings, kFlags},
-    ZP_MISSING_COMMAND(L"KOR_TCGLQ"),
+    {L"KOR_TCGLQ", dialogs::LayerManager, kFlags},
     {L"KOR_SZDQTC", MakePickedLayerCurrent, kFlags},
     {L"KOR_GBTC", ZP::CloseSelectedLayer, kFlags},
     {L"KOR_GBQT", ZP::CloseOtherLayers, kFlags},

@@ -5,6 +5,7 @@
 #include "plugin/frame/CZPSystemSettingsDlg.h"
 #include "plugin/graph/ResourceBracket.h"
 #include "plugin/layers/dialogs/CCADGroupLayerDlg.h"
+#include "plugin/layers/dialogs/CZPLayerManagerDlg.h"
 #include "plugin/pipes/dialogs/ShowPipeDialogs.h"
 #include "plugin/radiators/dialogs/ShowRadiatorDialogs.h"
 
@@ -23,6 +24,11 @@ void dialogs::DuctMaterials() {
 void dialogs::SystemSettings() {
   const ResourceBracket bracket;
   CZPSystemSettingsDlg(acedGetAcadDwgView()).DoModal();
+}
+
+void dialogs::LayerManager() {
+  const ResourceBracket bracket;
+  CZPLayerManagerDlg().DoModal();
 }
 
 void dialogs::LayerGroups() {

@@ -7,6 +7,7 @@ void PipeMaterials();  // KOR_GJGLQ
 void VelocityLimits(); // KOR_LSGLQ
 void DuctMaterials();  // KOR_FGGJGLQ
 void SystemSettings(); // KOR_XTSZ
+void LayerManager();   // KOR_TCGLQ
 void LayerGroups();    // KOR_CADTCFZ
 void Radiators();      // KOR_SRQ
 void FanCoils();       // KOR_FJPGGLQ

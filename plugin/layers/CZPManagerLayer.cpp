@@ -4,12 +4,13 @@
 #include "plugin/layers/CZPGroupLayer.h"
 #include "plugin/layers/CZPSystemLayer.h"
 #include "plugin/layers/OwnedNodes.h"
+#include "plugin/layers/SchemeFiles.h"
 
 IMPLEMENT_DYNAMIC(CZPManagerLayer, CZPLayerObject)
 
 ZP_IMPLEMENT_SINGLETON(CZPManagerLayer)
 
-CZPManagerLayer::CZPManagerLayer() : m_strPlanName(L"默认方案") {
+CZPManagerLayer::CZPManagerLayer() : m_strPlanName(layers::kDefaultScheme) {
   CZPLayerObject::SetName(L"全部图层");
   ReadData(m_strPlanName);
 }

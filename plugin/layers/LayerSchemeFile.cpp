@@ -3,7 +3,6 @@
 #include <memory>
 
 #include "plugin/base/CIDPEx.h"
-#include "plugin/base/Folders.h"
 #include "plugin/base/NumberText.h"
 #include "plugin/base/VersionMark.h"
 #include "plugin/layers/CZPGroupLayer.h"
@@ -11,14 +10,11 @@
 #include "plugin/layers/CZPSystemLayer.h"
 #include "plugin/layers/LayerFields.h"
 #include "plugin/layers/ParameterEntry.h"
+#include "plugin/layers/SchemeFiles.h"
 
 namespace {
 
 constexpr const wchar_t* kVersion = L"1.0";
-
-CString SchemePath(const CString& planName) {
-  return ZP::GetSystemPath() + L"Data\\LayerManager\\" + planName + L".idp";
-}
 
 // The node of a numbered list; the writer leaves no gap, so a missing number means a damaged file.
 CIDPEx& Numbered(CIDPEx& list, int number) {
@@ -76,7 +72,7 @@ void WriteLayer(CIDPEx& layerList, const CZPLayer& layer) {
 
 bool CZPManagerLayer::ReadData(const CString& planName) {
   m_strPlanName = planName; // even where nothing is read: the caller has turned to this scheme
-  const CString path = SchemePath(planName);
+  const CString path = layers::SchemePath(planName);
   CIDPEx root;
   if (!root.Open(path)) return false;
   CString version;
@@ -105,5 +101,5 @@ bool CZPManagerLayer::SaveData() {
       for (const CZPLayer* layer : group.Layers()) WriteLayer(layerList, *layer);
     }
   }
-  return root.Save(SchemePath(m_strPlanName)) != 0;
+  return root.Save(layers::SchemePath(m_strPlanName)) != 0;
 }

@@ -26,6 +26,7 @@ class UiFrontEndScript : public UiFrontEnd {
   std::optional<CString> linetype;
   std::optional<int> lineWeight;
   std::optional<CString> file;
+  CString choosers; // each that was opened, with what it began with: "颜色 3 线型 DASHED "
 
   // The text of the latest box, and forgets all of them.
   CString takeBox() {
@@ -51,9 +52,18 @@ class UiFrontEndScript : public UiFrontEnd {
     answers.pop_front();
     return answer;
   }
-  std::optional<int> ChooseColour(int, bool) override { return colour; }
-  std::optional<CString> ChooseLinetype(const CString&) override { return linetype; }
-  std::optional<int> ChooseLineWeight(int) override { return lineWeight; }
+  std::optional<int> ChooseColour(int start, bool allowByLayerAndBlock) override {
+    choosers.AppendFormat(allowByLayerAndBlock ? L"颜色 %d " : L"纯色 %d ", start);
+    return colour;
+  }
+  std::optional<CString> ChooseLinetype(const CString& start) override {
+    choosers += L"线型 " + start + L" ";
+    return linetype;
+  }
+  std::optional<int> ChooseLineWeight(int start) override {
+    choosers.AppendFormat(L"线宽 %d ", start);
+    return lineWeight;
+  }
   std::optional<CString> ChooseFile(const UiFileQuestion&) override { return file; }
 
  private:
