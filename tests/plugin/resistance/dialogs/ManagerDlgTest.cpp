@@ -1,7 +1,6 @@
 // The manager of local-resistance coefficients.
 #include "plugin/resistance/dialogs/CZPLocalResistanceMngDlg.h"
 
-#include "host/ed/AcApDocManager.h"
 #include "plugin/resistance/dialogs/CoefficientField.h"
 #include "plugin/resistance/dialogs/ShowResistanceDialogs.h"
 #include "tests/plugin/resistance/ResistanceFixture.h"
@@ -62,15 +61,6 @@ TEST_F(ResistanceManagerDlg, HasTwoPagesAndThreeButtons) {
     EXPECT_EQ(dialog.m_cancel.GetCaption(), L"取消");
     EXPECT_EQ(dialog.m_apply.GetCaption(), L"应用");
   });
-}
-
-TEST_F(ResistanceManagerDlg, IsShownWithTheResourcesOfThePlugIn) {
-  const std::size_t outside = acDocManagerPtr()->resourceDepth();
-  std::size_t inside = 0;
-  frontEnd.runs = {[&](CDialog&) { inside = acDocManagerPtr()->resourceDepth(); }};
-  EXPECT_EQ(ZP::ShowLRMDlg(nullptr), IDCANCEL);
-  EXPECT_EQ(inside, outside + 1);
-  EXPECT_EQ(acDocManagerPtr()->resourceDepth(), outside);
 }
 
 TEST_F(ResistanceManagerDlg, GivesTheResultOfTheDialog) {

@@ -3,7 +3,6 @@
 
 #include <climits>
 
-#include "host/ed/AcApDocManager.h"
 #include "plugin/resistance/dialogs/CZPLocalResistanceMngDlg.h"
 #include "plugin/resistance/dialogs/ShowResistanceDialogs.h"
 #include "tests/plugin/resistance/ResistanceFixture.h"
@@ -64,14 +63,6 @@ TEST_F(SectionDlg, ShowsAnEmptySectionAsTheInputRowAlone) {
     EXPECT_EQ(dialog.m_total.GetCaption(), L"总局部阻力系数：");
     EXPECT_EQ(dialog.m_manage.GetCaption(), L"局阻系数管理器...");
   });
-}
-
-TEST_F(SectionDlg, IsShownWithTheResourcesOfThePlugIn) {
-  const std::size_t outside = acDocManagerPtr()->resourceDepth();
-  std::size_t inside = 0;
-  In([&](Dlg&) { inside = acDocManagerPtr()->resourceDepth(); });
-  EXPECT_EQ(inside, outside + 1);
-  EXPECT_EQ(acDocManagerPtr()->resourceDepth(), outside);
 }
 
 TEST_F(SectionDlg, ShowsFittingsWithTheCoefficientOfTheDiameter) {
