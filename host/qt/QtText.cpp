@@ -32,11 +32,23 @@ CString FromQt(const QString& text) {
   return CString(std::move(result));
 }
 
+namespace {
+
+bool IsControl(wchar_t c) {
+  return (c < 0x20 && c != L'\n' && c != L'\t') || (c >= 0x7F && c < 0xA0);
+}
+
+} // namespace
+
 QString Shown(const CString& text) {
-  std::wstring shown(text.View());
-  for (wchar_t& c : shown)
-    if ((c < 0x20 && c != L'\n' && c != L'\t') || (c >= 0x7F && c < 0xA0) || (c >= 0xD800 && c < 0xE000))
-      c = L'\xFFFD';
+  const std::wstring_view from = text.View();
+  std::wstring shown;
+  shown.reserve(from.size());
+  for (std::size_t i = 0; i < from.size(); ++i) {
+    const wchar_t c = from[i];
+    if (c == L'\r' && i + 1 < from.size() && from[i + 1] == L'\n') continue;
+    shown.push_back(IsControl(c) || (c >= 0xD800 && c < 0xE000) ? L'\xFFFD' : c);
+  }
   return ToQt(CString(std::move(shown)));
 }
 

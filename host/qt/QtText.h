@@ -10,7 +10,7 @@ namespace desktop {
 
 QString ToQt(const CString& text);
 CString FromQt(const QString& text);
-// As it may be shown: control characters and what is no character replaced. Line ends stay.
+// As it may be shown: control characters and what is no character replaced. Line ends stay, of one sort.
 QString Shown(const CString& text);
 // A caption with "&" kept as the sign itself, for widgets that would take it as a mark of a key.
 QString Plain(const CString& caption);

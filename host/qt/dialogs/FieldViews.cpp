@@ -153,12 +153,21 @@ class ComboView : public ControlView {
 
  private:
   void sync(const UiChange& change) override {
-    if (change.kind == UiChange::Kind::content) {
+    const int at = m_shown->lineEdit() ? m_shown->lineEdit()->cursorPosition() : 0;
+    if (change.kind == UiChange::Kind::content && !showsEntries()) {
       m_shown->clear();
       for (int i = 0; i < m_combo.GetCount(); ++i) m_shown->addItem(Shown(m_combo.GetLBText(i)));
     }
     m_shown->setCurrentIndex(m_combo.GetCurSel());
-    if (m_shown->lineEdit()) SetText(*m_shown->lineEdit(), m_combo.GetText());
+    if (!m_shown->lineEdit()) return;
+    SetText(*m_shown->lineEdit(), m_combo.GetText());
+    m_shown->lineEdit()->setCursorPosition(at); // where the user goes on typing
+  }
+  bool showsEntries() const {
+    if (m_shown->count() != m_combo.GetCount()) return false;
+    for (int i = 0; i < m_combo.GetCount(); ++i)
+      if (m_shown->itemText(i) != Shown(m_combo.GetLBText(i))) return false;
+    return true;
   }
   CComboBox& m_combo;
   QComboBox* m_shown;

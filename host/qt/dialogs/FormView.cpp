@@ -24,6 +24,14 @@ bool HasLabelAbove(UiKind kind) {
   return kind == UiKind::listBox || kind == UiKind::tree || kind == UiKind::table ||
          kind == UiKind::propTree || kind == UiKind::picture || kind == UiKind::preview;
 }
+bool IsField(const UiLayout& layout) {
+  return layout.kind == UiLayout::Kind::control && layout.control && HasLabelBeside(layout.control->Kind());
+}
+// A field, or a row that begins with one, such as a field with a button.
+bool BeginsWithField(const UiLayout& layout) {
+  return IsField(layout) ||
+         (layout.kind == UiLayout::Kind::row && !layout.children.empty() && IsField(layout.children.front()));
+}
 // Takes height that is left over. Within a row, stretching and spaces are about the width.
 bool GrowsDown(const UiLayout& layout) {
   switch (layout.kind) {
@@ -72,9 +80,9 @@ void FormView::fillColumn(QGridLayout& grid, const UiLayout& layout) {
       grid.setRowStretch(row++, std::max(child.stretch, 1));
       continue;
     }
-    if (child.kind == UiLayout::Kind::control && child.control && HasLabelBeside(child.control->Kind())) {
+    if (BeginsWithField(child)) {
       QWidget* label = nullptr;
-      QWidget* field = makeControl(child, &label);
+      QWidget* field = IsField(child) ? makeControl(child, &label) : makeRow(child, &label);
       if (label) grid.addWidget(label, row, 0);
       grid.addWidget(field, row, label ? 1 : 0, 1, label ? 1 : 2);
     } else if (QWidget* widget = make(child)) {
@@ -86,24 +94,33 @@ void FormView::fillColumn(QGridLayout& grid, const UiLayout& layout) {
   if (!grows) grid.setRowStretch(row, 1);
 }
 
-void FormView::fillRow(QBoxLayout& row, const UiLayout& layout) {
+QWidget* FormView::makeRow(const UiLayout& layout, QWidget** firstLabel) {
+  auto* widget = new QWidget;
+  if (layout.width > 0) widget->setMinimumWidth(layout.width);
+  if (layout.height > 0) widget->setMinimumHeight(layout.height);
+  auto& row = *new QBoxLayout(QBoxLayout::LeftToRight, widget);
+  row.setContentsMargins(0, 0, 0, 0);
   row.setSpacing(kSpacing);
   for (const UiLayout& child : layout.children) {
     if (child.kind == UiLayout::Kind::space) {
       row.addStretch(std::max(child.stretch, 1));
       continue;
     }
-    const bool single = child.kind == UiLayout::Kind::control && child.control;
-    if (single && HasLabelBeside(child.control->Kind())) {
+    if (IsField(child)) {
       QWidget* label = nullptr;
       QWidget* field = makeControl(child, &label);
-      if (label) row.addWidget(label);
+      if (firstLabel && &child == &layout.children.front())
+        *firstLabel = label;
+      else if (label)
+        row.addWidget(label);
       row.addWidget(field, child.stretch);
-    } else if (QWidget* widget = make(child)) {
-      const bool low = single && (child.control->Kind() == UiKind::button);
-      row.addWidget(widget, child.stretch, low ? Qt::AlignVCenter : Qt::Alignment());
+    } else if (QWidget* item = make(child)) {
+      const bool low =
+          child.kind == UiLayout::Kind::control && child.control && child.control->Kind() == UiKind::button;
+      row.addWidget(item, child.stretch, low ? Qt::AlignVCenter : Qt::Alignment());
     }
   }
+  return widget;
 }
 
 QWidget* FormView::make(const UiLayout& layout) {
@@ -116,13 +133,8 @@ QWidget* FormView::make(const UiLayout& layout) {
     widget = makeControl(layout, &label);
     return widget && label ? above(label, widget) : widget;
   }
-  case UiLayout::Kind::row: {
-    widget = new QWidget;
-    auto* row = new QBoxLayout(QBoxLayout::LeftToRight, widget);
-    row->setContentsMargins(0, 0, 0, 0);
-    fillRow(*row, layout);
-    break;
-  }
+  case UiLayout::Kind::row:
+    return makeRow(layout, nullptr);
   case UiLayout::Kind::column: {
     widget = new QWidget;
     auto* grid = new QGridLayout(widget);

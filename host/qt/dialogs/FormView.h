@@ -6,7 +6,6 @@
 
 #include <vector>
 
-class QBoxLayout;
 class QGridLayout;
 class QWidget;
 
@@ -24,7 +23,8 @@ class FormView {
 
  private:
   void fillColumn(QGridLayout& grid, const UiLayout& layout);
-  void fillRow(QBoxLayout& row, const UiLayout& layout);
+  // With a place for it, the label of a field that the row begins with is left to the caller.
+  QWidget* makeRow(const UiLayout& layout, QWidget** firstLabel);
   // One item: a widget of its own.
   QWidget* make(const UiLayout& layout);
   QWidget* makeControl(const UiLayout& layout, QWidget** label);

@@ -88,6 +88,38 @@ TEST_F(DialogView, TellsOfAClickOnTheEntryThatIsSelectedAlready) {
   EXPECT_EQ(chosen, (std::vector<int>{1, 1, 0})) << "once for each click";
 }
 
+TEST_F(DialogView, TypesIntoADropDownListThatTakesFreeText) {
+  QString shown;
+  int at = 0;
+  show({[&] { TypeText(find<QComboBox>("自由：").lineEdit(), QStringLiteral("甲35.5")); },
+        [&] {
+          auto& line = *find<QComboBox>("自由：").lineEdit();
+          for (int i = 0; i < 3; ++i) QTest::keyClick(&line, Qt::Key_Left);
+          TypeText(&line, QStringLiteral("0"));
+          shown = line.text();
+          at = line.cursorPosition();
+        }});
+  EXPECT_EQ(QStringLiteral("甲305.5"), shown);
+  EXPECT_EQ(3, at) << "the cursor stays where the user types";
+  EXPECT_EQ(CString(L"甲305.5"), dialog.free.GetText());
+  EXPECT_EQ(-1, dialog.free.GetCurSel());
+}
+
+TEST_F(DialogView, FindsTypedEntriesOfADropDownListAndEndsByEnter) {
+  show({[&] { TypeText(find<QComboBox>("自由：").lineEdit(), QStringLiteral("35")); },
+        [&] { QTest::keyClick(find<QComboBox>("自由：").lineEdit(), Qt::Key_Return); }});
+  EXPECT_EQ(IDOK, result);
+  EXPECT_EQ(CString(L"35"), dialog.free.GetText());
+  EXPECT_EQ(1, dialog.free.GetCurSel());
+}
+
+TEST_F(DialogView, ShowsTheLinesOfALabel) {
+  dialog.label.SetCaption(L"系数a：0.20 \r\n\r\n系数b\r：1.20");
+  QString shown;
+  show({[&] { shown = find<QLabel>("系数a：0.20 \r\n\r\n系数b\r：1.20").text(); }});
+  EXPECT_EQ(QStringLiteral("系数a：0.20 \n\n系数b\uFFFD：1.20"), shown);
+}
+
 TEST_F(DialogView, TicksAndChoosesOneOfSeveral) {
   show({[&] { QTest::keyClick(&find<QCheckBox>("勾选"), Qt::Key_Space); },
         [&] {

@@ -57,6 +57,8 @@ class EveryKind : public CDialog {
     properties.AddItem({L"图块", CPropTreeItem::Kind::button, L"a.dwg", {}, {}, false, true, false, nullptr});
     combo.AddString(L"一");
     combo.AddString(L"二");
+    free.AddString(L"30");
+    free.AddString(L"35");
     names.AddString(L"子");
     names.AddString(L"丑");
     sheet.AddPage(first);
@@ -65,8 +67,9 @@ class EveryKind : public CDialog {
     cancel.Clicked.Connect([this] { OnCancel(); });
   }
   UiLayout Layout() override {
-    return ui::Column({ui::Item(label), ui::Item(text), ui::Item(number), ui::Item(combo), ui::Item(tick),
-                       ui::Item(choice), ui::Row({ui::Item(names), ui::Item(tree), ui::Item(properties)}),
+    return ui::Column({ui::Item(label), ui::Item(text), ui::Item(number), ui::Item(combo), ui::Item(free),
+                       ui::Item(tick), ui::Item(choice),
+                       ui::Row({ui::Item(names), ui::Item(tree), ui::Item(properties)}),
                        ui::Row({ui::Item(list), ui::Column({ui::Item(add)})}), ui::Item(grid),
                        ui::Item(sheet), ui::Row({ui::Item(picture), ui::Item(preview)}),
                        ui::Row({ui::Space(), ui::Item(ok), ui::Item(cancel)})});
@@ -75,6 +78,7 @@ class EveryKind : public CDialog {
   CEdit text{*this, L"文字："};
   CNumberEdit number{*this, L"数值：", {0.5, 0, 2}};
   CComboBox combo{*this, L"选择："};
+  CComboBox free{*this, L"自由：", CComboBox::Text::free};
   CCheckBox tick{*this, L"勾选"};
   CRadioGroup choice{*this, L"单选", {L"左", L"右"}};
   CListBox names{*this, L"列表"};
