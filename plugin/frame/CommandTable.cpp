@@ -21,7 +21,6 @@ struct MissingCommand {
 
 constexpr MissingCommand kMissing[] = {
     {L"KOR_CADTCKZ", L"当前CAD图纸图层管理"},
-    {L"KOR_SRQJS", L"散热器片数计算"},
 };
 
 // A name that the list doesn't have is no constant expression and thus no program.
@@ -67,7 +66,7 @@ constexpr VkCmdTable kTable[] = {
     {L"KOR_FJPGGLQ", dialogs::FanCoils, kFlags},
     {L"KOR_FJPG_OLDTONEW", fancoil::ImportOldCatalogue, kFlags},
     {L"KOR_SRQ", dialogs::Radiators, kFlags},
-    ZP_MISSING_COMMAND(L"KOR_SRQJS"),
+    {L"KOR_SRQJS", dialogs::RadiatorCalculation, kFlags},
 };
 
 #undef ZP_MISSING_COMMAND

@@ -7,6 +7,7 @@
 #include "plugin/layers/dialogs/CCADGroupLayerDlg.h"
 #include "plugin/layers/dialogs/CZPLayerManagerDlg.h"
 #include "plugin/pipes/dialogs/ShowPipeDialogs.h"
+#include "plugin/radiators/dialogs/CZPRadiatorCalculateDlg.h"
 #include "plugin/radiators/dialogs/ShowRadiatorDialogs.h"
 
 void dialogs::PipeMaterials() {
@@ -44,4 +45,9 @@ void dialogs::FanCoils() {
   const ResourceBracket bracket;
   constexpr bool favourites = false;
   CKTFCUManagerDlg(favourites, nullptr).DoModal();
+}
+
+void dialogs::RadiatorCalculation() {
+  const ResourceBracket bracket;
+  CZPRadiatorCalculateDlg(nullptr).DoModal();
 }

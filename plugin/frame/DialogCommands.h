@@ -3,13 +3,14 @@
 
 namespace dialogs {
 
-void PipeMaterials();  // KOR_GJGLQ
-void VelocityLimits(); // KOR_LSGLQ
-void DuctMaterials();  // KOR_FGGJGLQ
-void SystemSettings(); // KOR_XTSZ
-void LayerManager();   // KOR_TCGLQ
-void LayerGroups();    // KOR_CADTCFZ
-void Radiators();      // KOR_SRQ
-void FanCoils();       // KOR_FJPGGLQ
+void PipeMaterials();       // KOR_GJGLQ
+void VelocityLimits();      // KOR_LSGLQ
+void DuctMaterials();       // KOR_FGGJGLQ
+void SystemSettings();      // KOR_XTSZ
+void LayerManager();        // KOR_TCGLQ
+void LayerGroups();         // KOR_CADTCFZ
+void Radiators();           // KOR_SRQ
+void RadiatorCalculation(); // KOR_SRQJS
+void FanCoils();            // KOR_FJPGGLQ
 
 } // namespace dialogs

@@ -8,6 +8,7 @@
 #include "plugin/radiators/dialogs/CalculationDefaults.h"
 #include "plugin/radiators/dialogs/RadiatorNote.h"
 #include "plugin/radiators/dialogs/RadiatorTexts.h"
+#include "plugin/radiators/dialogs/ShowRadiatorDialogs.h"
 #include "plugin/rooms/RoomLoads.h"
 
 namespace {
@@ -36,8 +37,7 @@ void ShowTemperature(CComboBox& field, double value) {
 
 } // namespace
 
-CZPRadiatorCalculateDlg::CZPRadiatorCalculateDlg(CWnd* parent, ChooseRadiator choose)
-    : CDialog(L"散热器片数计算", parent), m_choose(choose) {
+CZPRadiatorCalculateDlg::CZPRadiatorCalculateDlg(CWnd* parent) : CDialog(L"散热器片数计算", parent) {
   m_pickRoom.SetBelongsTo(m_load);
   m_pickRoom.Clicked.Connect([this] { TakeLoadOfRoom(); });
   for (int table = 0; table < radiators::kCorrectionTableCount; ++table) {
@@ -129,9 +129,10 @@ void CZPRadiatorCalculateDlg::Calculate() {
   ShowNumber();
 }
 
-// The number stays that of the radiator before until the user calculates, as after a chosen factor.
+// The number stays that of the radiator before until the user calculates, as after a chosen factor. What was
+// changed of the radiator in use is shown only when the user has chosen it.
 void CZPRadiatorCalculateDlg::ManageRadiators() {
-  if (m_choose(m_pRadiator, this)) ShowRadiator();
+  if (ZP::ShowRadMngDlg(m_pRadiator, this)) ShowRadiator();
 }
 
 void CZPRadiatorCalculateDlg::ChooseBeta(int table) {

@@ -15,11 +15,7 @@ class CZPRadiator;
 
 class CZPRadiatorCalculateDlg : public CDialog {
  public:
-  // Lets the user choose a radiator of the catalogue: non-zero, and the chosen one in place of the one in
-  // use.
-  using ChooseRadiator = int (*)(CZPRadiator*& radiator, CWnd* parent);
-
-  CZPRadiatorCalculateDlg(CWnd* parent, ChooseRadiator choose);
+  explicit CZPRadiatorCalculateDlg(CWnd* parent);
   UiLayout Layout() override;
   // Null until it is shown: it begins with the first radiator of the catalogue.
   const CZPRadiator* Radiator() const { return m_pRadiator; }
@@ -63,7 +59,6 @@ class CZPRadiatorCalculateDlg : public CDialog {
   void ChooseBeta(int table);
   void Annotate();
 
-  ChooseRadiator m_choose;
   CZPRadiator* m_pRadiator = nullptr; // the catalogue's
   SZPRadCalData m_data;
   double m_number = 0; // what the result field says

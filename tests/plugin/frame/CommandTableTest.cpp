@@ -61,8 +61,7 @@ TEST(CommandTable, TellsWhichCommandsAreMissing) {
     row.handler();
   }
   for (const VkCmdTable& row : CommandTable().subspan(16)) row.handler();
-  EXPECT_EQ(editor.printed, L"\n命令 KOR_CADTCKZ（当前CAD图纸图层管理）尚未提供。\n"
-                            L"\n命令 KOR_SRQJS（散热器片数计算）尚未提供。\n");
+  EXPECT_EQ(editor.printed, L"\n命令 KOR_CADTCKZ（当前CAD图纸图层管理）尚未提供。\n");
 }
 
 } // namespace

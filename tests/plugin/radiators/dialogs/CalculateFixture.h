@@ -8,6 +8,7 @@
 #include "plugin/layers/CZPManagerLayer.h"
 #include "plugin/layers/CZPSystemLayer.h"
 #include "plugin/radiators/dialogs/CZPRadiatorCalculateDlg.h"
+#include "plugin/radiators/dialogs/CZPRadiatorManagerDlg.h"
 #include "plugin/rooms/CTQRoom.h"
 #include "plugin/rooms/RoomRecord.h"
 #include "plugin/rooms/VkDbHvacSpace.h"
@@ -37,7 +38,6 @@ class CalculateFixture : public RadiatorCatalogueFixture {
   ~CalculateFixture() override {
     CZPManagerLayer::GetInstance()->RemoveAll();
     ZP::SetDefaultValuesFile(L"");
-    chosen = nullptr;
   }
 
   CString DefaultsPath() const { return CString::FromUtf8((install.Root() / "user/Defaults.idp").string()); }
@@ -55,20 +55,32 @@ class CalculateFixture : public RadiatorCatalogueFixture {
     group->Add(layer);
   }
 
-  // What the radiator manager would do: chooses the one set beforehand, or none.
-  static int Choose(CZPRadiator*& radiator, CWnd*) {
-    if (!chosen) return 0;
-    radiator = chosen;
-    return 1;
-  }
   int In(const std::function<void(Dlg&)>& test) {
-    Dlg dialog(nullptr, Choose);
+    Dlg dialog(nullptr);
     frontEnd.runs.push_front([&](CDialog&) { test(dialog); });
     return dialog.DoModal();
   }
-  static void SwitchTo(Dlg& dialog, CZPRadiator* radiator) {
-    chosen = radiator;
+  // What is done in the manager that the button opens.
+  void Manage(Dlg& dialog, const std::function<void(CZPRadiatorManagerDlg&)>& test) {
+    frontEnd.runs.push_front([&](CDialog& open) {
+      EXPECT_EQ(open.GetParent(), &dialog);
+      test(static_cast<CZPRadiatorManagerDlg&>(open));
+    });
     EXPECT_TRUE(dialog.m_manager.UserClick());
+  }
+  static void Select(CZPRadiatorManagerDlg& manager, const CZPRadiatorObject* object) {
+    HTREEITEM found = nullptr;
+    manager.m_tree.Walk([&](HTREEITEM item) {
+      if (item->data == object) found = item;
+      return true;
+    });
+    EXPECT_TRUE(manager.m_tree.UserSelect(found));
+  }
+  void SwitchTo(Dlg& dialog, const CZPRadiator* radiator) {
+    Manage(dialog, [&](CZPRadiatorManagerDlg& manager) {
+      Select(manager, radiator);
+      EXPECT_TRUE(manager.m_ok.UserClick());
+    });
     EXPECT_EQ(dialog.Radiator(), radiator);
   }
 
@@ -99,5 +111,4 @@ class CalculateFixture : public RadiatorCatalogueFixture {
   CZPRadiator* iron = nullptr;
   CZPRadiator* panel = nullptr;
   CZPRadiator* fixed = nullptr;
-  static inline CZPRadiator* chosen = nullptr;
 };

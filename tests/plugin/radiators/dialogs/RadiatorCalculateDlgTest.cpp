@@ -6,6 +6,7 @@
 #include "plugin/base/NumberText.h"
 #include "plugin/graph/DrawingSettings.h"
 #include "plugin/layers/LayerService.h"
+#include "plugin/radiators/dialogs/CZPAddRadiatorDlg.h"
 #include "plugin/radiators/dialogs/CZPRadiatorReportDlg.h"
 #include "plugin/radiators/dialogs/CalculationDefaults.h"
 #include "tests/plugin/radiators/dialogs/CalculateFixture.h"
@@ -222,28 +223,67 @@ TEST_F(RadiatorCalculation, ShowsAChosenRadiatorWithoutCalculating) {
   });
 }
 
-TEST_F(RadiatorCalculation, KeepsTheRadiatorWhenNoneIsChosen) {
+TEST_F(RadiatorCalculation, KeepsTheRadiatorAndWhatIsShownOfItWhenNoneIsChosen) {
   In([&](Dlg& dialog) {
-    iron->m_dA = 9; // changed in the manager, and left without choosing
-    EXPECT_TRUE(dialog.m_manager.UserClick());
+    const CString shown = dialog.m_parameters.GetCaption();
+    Manage(dialog, [&](CZPRadiatorManagerDlg& manager) {
+      Select(manager, iron);
+      EXPECT_TRUE(manager.m_properties.UserSetText(CRADPropTree::aItem, L"9"));
+      EXPECT_TRUE(manager.m_exit.UserClick());
+    });
     EXPECT_EQ(dialog.Radiator(), iron);
-    EXPECT_EQ(dialog.m_parameters.GetCaption(), L"实验系数a：0.60 \r\n\r\n实验系数b：1.28");
+    EXPECT_EQ(dialog.m_parameters.GetCaption(), shown);
+    EXPECT_EQ(iron->m_dA, 9);
+    Manage(dialog, [&](CZPRadiatorManagerDlg& manager) {
+      Select(manager, iron->GetParent()); // a type is no radiator
+      EXPECT_TRUE(manager.m_ok.UserClick());
+    });
+    EXPECT_EQ(dialog.Radiator(), iron);
+    EXPECT_TRUE(dialog.m_calculate.UserClick());
+    EXPECT_EQ(dialog.m_result.GetText(), Number(*iron, {})) << "the number is that of the changed radiator";
   });
 }
 
-TEST_F(RadiatorCalculation, HandsTheRadiatorInUseToTheManager) {
-  static CZPRadiator* handed = nullptr;
-  static CWnd* parent = nullptr;
-  const auto choose = [](CZPRadiator*& radiator, CWnd* above) {
-    handed = radiator;
-    parent = above;
-    return 0;
-  };
-  Dlg dialog(nullptr, choose);
-  frontEnd.runs.push_front([&](CDialog&) { EXPECT_TRUE(dialog.m_manager.UserClick()); });
-  dialog.DoModal();
-  EXPECT_EQ(handed, iron);
-  EXPECT_EQ(parent, &dialog);
+TEST_F(RadiatorCalculation, ShowsTheSameRadiatorAgainWhenItIsChosen) {
+  In([&](Dlg& dialog) {
+    Manage(dialog, [&](CZPRadiatorManagerDlg& manager) {
+      EXPECT_TRUE(manager.m_properties.UserSetText(CRADPropTree::aItem, L"9"))
+          << "the one in use is selected";
+      EXPECT_TRUE(manager.m_ok.UserClick());
+    });
+    EXPECT_EQ(dialog.m_parameters.GetCaption(), L"实验系数a：9.00 \r\n\r\n实验系数b：1.28");
+  });
+}
+
+TEST_F(RadiatorCalculation, KeepsTheRadiatorInUseFromBeingDeleted) {
+  In([&](Dlg& dialog) {
+    Manage(dialog, [&](CZPRadiatorManagerDlg& manager) {
+      EXPECT_TRUE(manager.m_remove.UserClick());
+      EXPECT_EQ(frontEnd.takeBox(), L"当前散热器[四柱760]数据正在使用，不允许删除！？");
+      Select(manager, iron->GetParent());
+      EXPECT_TRUE(manager.m_remove.UserClick());
+      EXPECT_EQ(frontEnd.takeBox(), L"当前[铸铁]数据正在使用，不允许删除！？");
+    });
+    EXPECT_EQ(dialog.Radiator(), iron);
+  });
+}
+
+TEST_F(RadiatorCalculation, GoesOnWithARadiatorThatWasMovedToAnotherType) {
+  In([&](Dlg& dialog) {
+    Manage(dialog, [&](CZPRadiatorManagerDlg& manager) {
+      frontEnd.runs.push_front([](CDialog& open) {
+        auto& modify = static_cast<CZPAddRadiatorDlg&>(open);
+        EXPECT_TRUE(modify.m_properties.UserSetText(CRADPropTree::typeItem, L"新材质"));
+        EXPECT_TRUE(modify.UserEnter());
+      });
+      EXPECT_TRUE(manager.m_modify.UserClick());
+      EXPECT_TRUE(manager.m_exit.UserClick());
+    });
+    EXPECT_EQ(dialog.Radiator(), catalogue.GetRadiator(L"四柱760", L"新材质"));
+    EXPECT_EQ(dialog.m_type.GetCaption(), L"类型：新材质");
+    EXPECT_TRUE(dialog.m_calculate.UserClick());
+    EXPECT_EQ(dialog.m_result.GetText(), Number(*dialog.Radiator(), {}));
+  });
 }
 
 TEST_F(RadiatorCalculation, DisablesTheTemperaturesForAFixedOutput) {
