@@ -43,7 +43,10 @@ void Screenshot::look() {
   QWidget* open = QApplication::activeModalWidget();
   auto& input = EdSession::instance().input();
   input.dropFinished();
-  if (!open || input.scriptDepth() > 0) return;
+  // The script's last line may still be at work: it may have closed another dialog above this one.
+  const bool settled = open && open == m_lastOpen;
+  m_lastOpen = input.scriptDepth() > 0 ? nullptr : open;
+  if (!settled || !m_lastOpen) return;
   if (!m_taken) take(*open);
   open->close();
 }

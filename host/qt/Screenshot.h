@@ -24,6 +24,7 @@ class Screenshot {
   CString m_file;
   CommandFeed& m_feed;
   QTimer m_timer;
+  QWidget* m_lastOpen = nullptr; // the dialog that stood open at the last look, with no script left
   bool m_taken = false;
   bool m_saved = false;
 };

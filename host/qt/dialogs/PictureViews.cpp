@@ -82,14 +82,19 @@ class PreviewView : public ControlView {
   }
   void paint(QPainter& painter, const QRect& place) {
     if (m_scene.box.IsEmpty() || place.isEmpty()) return;
+    constexpr int margin = 4; // pixels that keep the outermost lines off the frame
+    const double ratio = m_field->devicePixelRatioF();
+    const QSize pixels = (QSizeF(place.size()) * ratio).toSize();
     const double width = m_scene.box.maxX - m_scene.box.minX;
     const double height = m_scene.box.maxY - m_scene.box.minY;
-    const double units = std::max(width / place.width(), height / place.height());
+    const double units = std::max(width / std::max(pixels.width() - 2 * margin, 1),
+                                  height / std::max(pixels.height() - 2 * margin, 1));
     const ViewMap map{
-        place.size(), {m_scene.box.minX + width / 2, m_scene.box.minY + height / 2}, units > 0 ? units : 1};
-    QImage image(place.size(), QImage::Format_RGB32);
+        pixels, {m_scene.box.minX + width / 2, m_scene.box.minY + height / 2}, units > 0 ? units : 1};
+    QImage image(pixels, QImage::Format_RGB32);
     image.fill(LightCanvas().background);
     ScenePainter(image, image.rect(), map, LightCanvas().background, m_outlines).paint(m_scene);
+    image.setDevicePixelRatio(ratio);
     painter.drawImage(place.topLeft(), image);
   }
 
