@@ -23,6 +23,7 @@ constexpr CommandRow kTable[] = {
     {L"WB_SCKW", L"生成扣弯", kDraws, MakeBends},
     {L"WB_BZFJ", L"布置房间", kDraws, PlaceRoom},
     {L"WB_CXFJ", L"查询房间负荷", kDraws, QueryRoom},
+    {L"WB_BZPG", L"布置风机盘管", kDraws, PlaceFanCoil},
     {L"WB_CLCD", L"测量长度", kDraws, MeasureLength},
     {L"WB_CLMJ", L"测量面积", kDraws, MeasureArea},
     {L"WB_CZTD", L"成组拖动", kSelects, DragGroup},

@@ -12,8 +12,9 @@ void MakeBends();    // crossing bends where selected pipes of different elevati
 void SizePipe();     // the diameter for a flow, velocity and friction
 void ResistPipe();   // the local resistances of a pipe and their sum
 void ManageResistance();
-void PlaceRoom(); // a room with its outline, its loads and its record
-void QueryRoom(); // the loads of a room, for heating, for cooling, or with its temperature
+void PlaceRoom();    // a room with its outline, its loads and its record
+void QueryRoom();    // the loads of a room, for heating, for cooling, or with its temperature
+void PlaceFanCoil(); // fan-coil units of a model picked from the favourites
 void MeasureLength();
 void MeasureArea();
 void DragGroup();        // copies of what is selected, dragged and turned as one

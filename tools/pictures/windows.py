@@ -28,6 +28,12 @@ SECONDS = 60
 MAIN = ["WB_HZGG", "采暖供水干管", "镀锌钢管(普通)", "25", "3", "0,0", "6000,0", ""]
 SECTION = ["edit 管道配件 1 名称 = 散热器", "edit 管道配件 2 名称 = 弯头", "edit 管道配件 弯头 数量 = 4", "edit 管道配件 3 名称 = 闸阀",
            "set 1分/1→3 = 2", "set 3汇/1→3 = 1", "set 其它局部阻力系数 = 0.5"]
+UNIT = ["PLINE", "0,0", "900,0", "900,480", "0,480", "c", "PLINE", "60,300", "840,300", "840,420", "60,420", "c",
+        "PLINE", "60,300", "190,420", "320,300", "450,420", "580,300", "710,420", "840,300", "",
+        "CIRCLE", "250,150", "100", "CIRCLE", "650,150", "100", "LINE", "350,150", "550,150", ""]
+BLOCK = ["click 图面选取", "all", "", "0,0", "450,600"]
+CHANGED = UNIT + ["KOR_FJPGGLQ", "select 风机盘管列表 FP-68", "click 修改", "set 图块名 = FJPG1"] + BLOCK + ["click 确认修改"]
+NEW = UNIT + ["KOR_FJPGGLQ", "click 添加", "set 风机数量 = 2", "set 功率(W) = 58"] + BLOCK + ["set 设备型号 = FP-68H"]
 
 # Name: what is typed, and the drawing that the program is started with. A picture shows what stands open at the end.
 WINDOWS = {
@@ -41,6 +47,9 @@ WINDOWS = {
     "velocity-limits": (["KOR_LSGLQ", "select 流速 32"], None),
     "coefficient-manager": (["WB_JZXS", "select 管道配件 弯头"], None),
     "coefficient-manager-tees": (["WB_JZXS", "select 局阻系数 三通四通"], None),
+    "fan-coil-manager": (CHANGED, None),
+    "fan-coil-model": (NEW, None),
+    "fan-coil-favourites": (CHANGED + ["click 确认", "WB_BZPG", "select 常用风机盘管 FP-68|国标系列"], None),
     "section-resistance": (MAIN + ["WB_JBZL", "3000,0"] + SECTION, None),
 }
 
