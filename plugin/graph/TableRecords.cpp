@@ -15,4 +15,12 @@ Acad::ErrorStatus AddToTabRecAndClose(AcDbBlockTableRecord* record, AcDbEntity* 
   return status;
 }
 
+std::vector<AcDbObjectId> EntitiesOf(const AcDbBlockTableRecord& record) {
+  std::vector<AcDbObjectId> ids;
+  AcDbObjectId id;
+  for (AcDbBlockTableRecordIterator it(record); !it.done(); it.step())
+    if (it.getEntityId(id) == Acad::eOk) ids.push_back(id);
+  return ids;
+}
+
 } // namespace ZP

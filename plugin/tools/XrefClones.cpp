@@ -16,6 +16,7 @@
 #include "host/ed/ArxDbgUtils.h"
 #include "host/ed/acutPrintf.h"
 #include "plugin/graph/Screen.h"
+#include "plugin/graph/TableRecords.h"
 #include "plugin/layers/LayerService.h"
 
 namespace ZP {
@@ -67,16 +68,6 @@ bool ReadReference(const AcDbObjectId& id, Reference& out) {
   return true;
 }
 
-// The entities of a drawing's model space.
-bool ModelSpaceOf(const AcDbDatabase& drawing, std::vector<AcDbObjectId>& ids) {
-  AcDbObjectPointer<AcDbBlockTableRecord> space(drawing.modelSpaceId(), AcDb::kForRead);
-  if (!space) return false;
-  AcDbObjectId id;
-  for (AcDbBlockTableRecordIterator it(*space.object()); !it.done(); it.step())
-    if (it.getEntityId(id) == Acad::eOk) ids.push_back(id);
-  return true;
-}
-
 // Brings what the block holds into the current space, in the reference's scales.
 void AddContents(const AcDbObjectId& block, const AcGeVector3d& scales) {
   AcDbBlockReference copy;
@@ -104,8 +95,10 @@ void CloneReference(const AcDbObjectId& id, AcDbDatabase& working) {
     acutPrintf(L"\n打开外部参照块:%s失败!", reference.block);
     return;
   }
-  std::vector<AcDbObjectId> ids;
-  if (!ModelSpaceOf(file, ids)) return;
+  AcDbObjectPointer<AcDbBlockTableRecord> space(file.modelSpaceId(), AcDb::kForRead);
+  if (!space) return;
+  const auto ids = EntitiesOf(*space.object());
+  space.close();
   AcDbDatabase moved(true);
   // A base point at the negated position shifts the geometry by the position.
   const AcGePoint3d base = AcGePoint3d() - reference.position.asVector();

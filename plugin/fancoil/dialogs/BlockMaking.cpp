@@ -10,6 +10,7 @@
 #include "host/ed/ArxDbgSelSet.h"
 #include "host/ed/ArxDbgUiPrPoint.h"
 #include "plugin/graph/DocumentWriteLock.h"
+#include "plugin/graph/TableRecords.h"
 
 namespace fancoil {
 namespace {
@@ -21,14 +22,6 @@ std::optional<AcGePoint3d> AskForPoint(const wchar_t* prompt) {
   ArxDbgUiPrPoint question(prompt);
   if (question.go() != ArxDbgUiPrBase::kOk) return std::nullopt;
   return question.value();
-}
-
-std::vector<AcDbObjectId> EntitiesOf(const AcDbBlockTableRecord& block) {
-  std::vector<AcDbObjectId> ids;
-  AcDbObjectId id;
-  for (AcDbBlockTableRecordIterator it(block); !it.done(); it.step())
-    if (it.getEntityId(id) == Acad::eOk) ids.push_back(id);
-  return ids;
 }
 
 bool Inserts(const AcDbObjectId& entity, const AcDbObjectId& block) {
@@ -54,7 +47,7 @@ Acad::ErrorStatus ClearedBlock(AcDbDatabase& drawing, const BlockPick& pick, AcD
   const AcDbObjectPointer<AcDbBlockTableRecord> old(block, AcDb::kForWrite);
   if (!old) return old.openStatus();
   if (old->xrefStatus() != AcDb::kXrfNotAnXref) return Acad::eNotApplicable;
-  for (const AcDbObjectId& id : EntitiesOf(*old.object())) drawing.eraseWhole(*id.object());
+  for (const AcDbObjectId& id : ZP::EntitiesOf(*old.object())) drawing.eraseWhole(*id.object());
   return old->setOrigin(pick.insertion);
 }
 
@@ -70,7 +63,7 @@ Acad::ErrorStatus Gather(AcDbDatabase& drawing, const BlockPick& pick, BlockDraw
   {
     const AcDbObjectPointer<AcDbBlockTableRecord> filled(block, AcDb::kForRead);
     if (!filled) return filled.openStatus();
-    status = drawing.wblock(made, EntitiesOf(*filled.object()), AcGePoint3d::kOrigin);
+    status = drawing.wblock(made, ZP::EntitiesOf(*filled.object()), AcGePoint3d::kOrigin);
   }
   const std::unique_ptr<AcDbDatabase> contents(made);
   if (status == Acad::eOk) status = contents->wblock(made, {}, AcGePoint3d::kOrigin); // new, with its units

@@ -1,10 +1,9 @@
 // The manager of fan-coil units by clicks and keys.
 #include "host/db/AcDbCurves.h"
 #include "host/ed/ArxDbgUtils.h"
-#include "plugin/base/DefaultValues.h"
-#include "plugin/fancoil/OwnedEntries.h"
 #include "plugin/fancoil/dialogs/CKTFCUManagerDlg.h"
 #include "plugin/fancoil/dialogs/ShowFanCoilDialogs.h"
+#include "tests/host/qt/FanCoilCatalogue.h"
 #include "tests/host/qt/PlugInDialogs.h"
 
 #include <QTreeWidget>
@@ -13,24 +12,6 @@ namespace {
 
 class FanCoilManagerClicks : public PlugInDialogs {
  protected:
-  FanCoilManagerClicks() {
-    install.Write("Data/KTSLDatabase.xml", R"(<dictionary><item name="Block"/></dictionary>)");
-    ZP::SetDefaultValuesFile(CString::FromUtf8((install.Root() / "Defaults.idp").string()));
-    fancoil::DeleteEntries(catalogue.m_arrFactories);
-    maker = new CFCUFactory;
-    maker->SetName(L"甲");
-    EXPECT_EQ(catalogue.Add(maker), 1);
-    for (const wchar_t* name : {L"A", L"B", L"C"}) {
-      auto* model = new CFCUEquipment;
-      model->SetName(name);
-      EXPECT_EQ(maker->Add(model), 1);
-    }
-    maker->GetEquipment(L"C")->m_data.szInstallStyle = L"明装";
-  }
-  ~FanCoilManagerClicks() override {
-    fancoil::DeleteEntries(catalogue.m_arrFactories);
-    ZP::SetDefaultValuesFile(CString());
-  }
   int manage(Steps steps) {
     return during(
         [] {
@@ -42,16 +23,6 @@ class FanCoilManagerClicks : public PlugInDialogs {
   int pickFavourite(CFCUEquipment*& equipment, Steps steps) {
     return during([&] { return ZP::ShowCommonFCUMngDlg(equipment); }, std::move(steps));
   }
-  CString names() const {
-    CString all;
-    for (const CFCUFactory* factory : catalogue.m_arrFactories) {
-      all += factory->GetName() + L":";
-      for (const CFCUEquipment* model : factory->m_arrEquipments) all += L" " + model->GetName();
-      all += L"\n";
-    }
-    return all;
-  }
-
   static QTreeWidgetItem& item(const char* text) {
     const auto found = find<QTreeWidget>("风机盘管列表")
                            .findItems(QString::fromUtf8(text), Qt::MatchExactly | Qt::MatchRecursive);
@@ -80,8 +51,8 @@ class FanCoilManagerClicks : public PlugInDialogs {
   }
   static QString property(const char* label) { return find<QLineEdit>(label).text(); }
 
-  CFCUManager& catalogue = *CFCUManager::GetInstance();
-  CFCUFactory* maker = nullptr;
+  FanCoilCatalogue catalogue{install};
+  CFCUFactory* maker = catalogue.maker;
 };
 
 TEST_F(FanCoilManagerClicks, ShowTheModelOfAnItem) {
@@ -114,7 +85,7 @@ TEST_F(FanCoilManagerClicks, AddAModel) {
       IDCANCEL);
   EXPECT_EQ(empty, QStringLiteral("型号名不能为空!"));
   EXPECT_EQ(taken, QStringLiteral("厂家\"甲\"拥有的设备中，型号名\"B\"已存在，请重新指定型号名!"));
-  EXPECT_EQ(names(), L"甲: A B C N\n");
+  EXPECT_EQ(catalogue.Names(), L"甲: A B C N\n");
   EXPECT_EQ(maker->GetEquipment(L"N")->m_data.dbWaterFlow, 0.086);
   EXPECT_EQ(maker->GetEquipment(L"N")->m_data.szInstallStyle, L"明装");
   EXPECT_NE(install.Read("Data/FCUData.idp").find("\"设备型号\":\"N\""), std::string::npos);
@@ -130,7 +101,7 @@ TEST_F(FanCoilManagerClicks, AreAskedBeforeAModelGoes) {
   QString told;
   manage({clickItem("B"), pressing("删除"), answer(told, "取消"), pressing("删除"), answer(told, "确定")});
   EXPECT_EQ(told, QStringLiteral("删除不可恢复，确定要删除[B]吗？"));
-  EXPECT_EQ(names(), L"甲: A C\n");
+  EXPECT_EQ(catalogue.Names(), L"甲: A C\n");
 }
 
 TEST_F(FanCoilManagerClicks, MakeABlockOfWhatIsDrawn) {

@@ -2,11 +2,13 @@
 // the plug-in and in whatever that opens. Nothing may break, and what the file holds afterwards is what the
 // catalogue holds.
 #include "plugin/base/NumberText.h"
+#include "plugin/fancoil/dialogs/CKTFCUManagerDlg.h"
 #include "plugin/frame/CZPSystemSettingsDlg.h"
 #include "plugin/graph/DrawingSettings.h"
 #include "plugin/pipes/CZPPipeMaterialManager.h"
 #include "plugin/resistance/CZPLocalResistanceSettings.h"
 #include "plugin/resistance/dialogs/ShowResistanceDialogs.h"
+#include "tests/host/qt/FanCoilCatalogue.h"
 #include "tests/host/qt/PlugInDialogs.h"
 #include "tests/plugin/resistance/ShippedStore.h"
 
@@ -131,6 +133,28 @@ TEST_P(RandomClicks, KeepEachFittingOfASectionOnce) {
   play([&] { return ZP::ShowLRSDlg(section, nullptr); });
   for (int i = 0; i < section.m_arrParts.GetSize(); ++i)
     EXPECT_EQ(section.FindPipeParts(section.m_arrParts[i].GetName()), i) << "each name in one row";
+}
+
+TEST_P(RandomClicks, KeepFanCoilsAsTheyAreShown) {
+  FanCoilCatalogue catalogue(install);
+  // A dialog that has stepped aside for a pick comes back at Escape.
+  QTimer timer;
+  QObject::connect(&timer, &QTimer::timeout, [this] {
+    if (!top()) Desktop::key(Qt::Key_Escape);
+  });
+  constexpr int every = 20; // milliseconds
+  timer.start(every);
+  play([] {
+    constexpr bool favourites = false;
+    return CKTFCUManagerDlg(favourites, nullptr).DoModal();
+  });
+  catalogue.manager.SaveData();
+  const int makers = catalogue.manager.m_arrFactories.GetSize();
+  const bool some = catalogue.manager.GetInitialFCU() != nullptr;
+  fancoil::DeleteEntries(catalogue.manager.m_arrFactories);
+  EXPECT_EQ(catalogue.manager.ReadData(), 1);
+  EXPECT_EQ(catalogue.manager.m_arrFactories.GetSize(), makers);
+  EXPECT_EQ(catalogue.manager.GetInitialFCU() != nullptr, some);
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, RandomClicks, testing::Range(1u, 4u));

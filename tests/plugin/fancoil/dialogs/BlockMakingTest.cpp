@@ -59,16 +59,15 @@ TEST_F(FanCoilBlockMaking, AsksUntilSomethingIsSelected) {
 }
 
 TEST_F(FanCoilBlockMaking, EndsWithAnyCancel) {
-  const std::vector<std::initializer_list<const wchar_t*>> cancelled = {
-      {L"*cancel*"},
-      {L"all", L"*cancel*"},
-      {L"all", L"", L"*cancel*"},
-      {L"all", L"", L""},
-      {L"all", L"", L"100,200", L"*cancel*"},
-      {L"all", L"", L"100,200", L""},
-      {}};
+  const std::vector<std::vector<const wchar_t*>> cancelled = {{L"*cancel*"},
+                                                              {L"all", L"*cancel*"},
+                                                              {L"all", L"", L"*cancel*"},
+                                                              {L"all", L"", L""},
+                                                              {L"all", L"", L"100,200", L"*cancel*"},
+                                                              {L"all", L"", L"100,200", L""},
+                                                              {}};
   for (const auto& lines : cancelled) {
-    user.type(lines);
+    user.lines.assign(lines.begin(), lines.end());
     EXPECT_FALSE(AskForBlock());
     EXPECT_TRUE(user.lines.empty());
   }
