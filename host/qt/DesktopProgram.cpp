@@ -91,6 +91,7 @@ int Run(const DesktopJob& job, QSettings& settings, const QString& folder) {
   DesktopFrontEnd frontEnd(feed, window);
   DesktopDialogs dialogs(window, [&feed] { feed.wake(); });
   dialogs.scriptLine = job.obeyDialogLine;
+  dialogs.settings = &settings;
   const SessionScope scope(frontEnd, dialogs);
   auto& session = EdSession::instance();
   window.show();

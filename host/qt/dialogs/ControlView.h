@@ -9,6 +9,7 @@
 #include <unordered_map>
 
 class CFormWnd;
+class QSettings;
 class QWidget;
 
 namespace desktop {
@@ -21,6 +22,7 @@ struct FormContext {
   std::unordered_map<const CWnd*, ControlView*> views;
   std::function<void()> afterEvent; // of the user, obeyed or refused
   QWidget* lastFocus = nullptr;     // the control in which the user was last
+  QSettings* settings = nullptr;    // where views keep what the user arranged; null for nowhere
 };
 
 class ControlView {

@@ -55,7 +55,7 @@ QWidget* DesktopDialogs::parent() const {
 
 void DesktopDialogs::RunModal(CDialog& dialog) {
   QEventLoop loop;
-  DialogWindow window(dialog, parent(), EndEvent);
+  DialogWindow window(dialog, parent(), EndEvent, settings);
   m_dialogs[&dialog] = &window;
   window.setWindowModality(Qt::ApplicationModal);
   window.ended = [&loop] { loop.quit(); };
@@ -85,7 +85,7 @@ void DesktopDialogs::ShowModeless(CFormWnd& form) {
   if (auto* bar = dynamic_cast<CAcUiDockControlBar*>(&form)) {
     DockBar*& shown = m_bars[&form];
     if (!shown) {
-      shown = new DockBar(*bar, &m_window, m_afterEvent);
+      shown = new DockBar(*bar, &m_window, m_afterEvent, settings);
       shown->setAllowedAreas(AreasOf(bar->DockingSides()));
       m_window.addDockWidget(AreaOf(bar->DockedSide()), shown);
       if (bar->DockedSide() == 0) shown->setFloating(true);
@@ -96,7 +96,7 @@ void DesktopDialogs::ShowModeless(CFormWnd& form) {
   auto* dialog = dynamic_cast<CDialog*>(&form);
   if (!dialog) return;
   DialogWindow*& shown = m_dialogs[&form];
-  if (!shown) shown = new DialogWindow(*dialog, &m_window, m_afterEvent);
+  if (!shown) shown = new DialogWindow(*dialog, &m_window, m_afterEvent, settings);
   shown->show();
   shown->follow();
 }

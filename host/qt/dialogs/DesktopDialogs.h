@@ -7,6 +7,7 @@
 #include <unordered_map>
 
 class QMainWindow;
+class QSettings;
 class QWidget;
 
 namespace desktop {
@@ -23,6 +24,9 @@ class DesktopDialogs : public UiFrontEnd {
 
   // Obeys a script's line in the dialog that stands open. Without it scripts wait for the user there.
   std::function<void(CDialog&, const CString&)> scriptLine;
+
+  // Where the user's widths of columns are kept; null for nowhere.
+  QSettings* settings = nullptr;
 
   void RunModal(CDialog& dialog) override;
   void ShowModeless(CFormWnd& window) override;

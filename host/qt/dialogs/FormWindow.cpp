@@ -14,8 +14,8 @@
 
 namespace desktop {
 
-FormHolder::FormHolder(CFormWnd& form, std::function<void()> afterEvent)
-    : m_form(form), m_context{form, {}, std::move(afterEvent), nullptr} {
+FormHolder::FormHolder(CFormWnd& form, std::function<void()> afterEvent, QSettings* settings)
+    : m_form(form), m_context{form, {}, std::move(afterEvent), nullptr, settings} {
   m_view = std::make_unique<FormView>(form, m_context);
   m_focus = form.FocusMoved.Watch([this] { followFocus(); });
 }
@@ -25,11 +25,12 @@ void FormHolder::followFocus() {
   if (found != m_context.views.end()) found->second->focus();
 }
 
-DialogWindow::DialogWindow(CDialog& dialog, QWidget* parent, std::function<void()> afterEvent)
+DialogWindow::DialogWindow(CDialog& dialog, QWidget* parent, std::function<void()> afterEvent,
+                           QSettings* settings)
     : QDialog(parent,
               Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
       m_dialog(&dialog), m_afterEvent(std::move(afterEvent)),
-      m_holder(std::make_unique<FormHolder>(dialog, m_afterEvent)) {
+      m_holder(std::make_unique<FormHolder>(dialog, m_afterEvent, settings)) {
   setObjectName(ToQt(dialog.GetCaption()));
   auto* layout = new QBoxLayout(QBoxLayout::TopToBottom, this);
   layout->setContentsMargins(4, 4, 4, 4);
@@ -104,9 +105,10 @@ void DialogWindow::keyPressEvent(QKeyEvent* event) {
   if (after) after();
 }
 
-DockBar::DockBar(CAcUiDockControlBar& bar, QWidget* parent, std::function<void()> afterEvent)
+DockBar::DockBar(CAcUiDockControlBar& bar, QWidget* parent, std::function<void()> afterEvent,
+                 QSettings* settings)
     : QDockWidget(Shown(bar.GetCaption()), parent), m_bar(&bar),
-      m_holder(std::make_unique<FormHolder>(bar, std::move(afterEvent))) {
+      m_holder(std::make_unique<FormHolder>(bar, std::move(afterEvent), settings)) {
   setObjectName(ToQt(bar.ToolID().IsEmpty() ? bar.GetCaption() : bar.ToolID()));
   setWidget(m_holder->widget());
   m_watch = bar.Changed.Watch([this](const UiChange&) { follow(); });

@@ -15,7 +15,7 @@ namespace desktop {
 // What both kinds of windows share: the form, and the state that the window itself shows.
 class FormHolder {
  public:
-  FormHolder(CFormWnd& form, std::function<void()> afterEvent);
+  FormHolder(CFormWnd& form, std::function<void()> afterEvent, QSettings* settings);
   QWidget* widget() const { return m_view->widget(); }
   CFormWnd& form() const { return m_form; }
   // The control that has the keyboard in the form's own opinion.
@@ -30,8 +30,8 @@ class FormHolder {
 
 class DialogWindow : public QDialog {
  public:
-  // afterEvent is told of everything that the user does.
-  DialogWindow(CDialog& dialog, QWidget* parent, std::function<void()> afterEvent);
+  // afterEvent is told of everything that the user does. Without settings what he arranges is not kept.
+  DialogWindow(CDialog& dialog, QWidget* parent, std::function<void()> afterEvent, QSettings* settings);
   // Nothing of the dialog may be used any more.
   void detach();
   // Whoever waits for the end.
@@ -52,7 +52,7 @@ class DialogWindow : public QDialog {
 
 class DockBar : public QDockWidget {
  public:
-  DockBar(CAcUiDockControlBar& bar, QWidget* parent, std::function<void()> afterEvent);
+  DockBar(CAcUiDockControlBar& bar, QWidget* parent, std::function<void()> afterEvent, QSettings* settings);
   void detach();
   void follow();
 

@@ -8,7 +8,7 @@ namespace {
 class TableView : public ControlView {
  public:
   TableView(CTableWnd& control, FormContext& context)
-      : ControlView(control, context), m_shown(new TableWidget(control)) {
+      : ControlView(control, context), m_shown(new TableWidget(control, context.settings)) {
     m_shown->obey = [this](const TableWidget::Event& event) { obey(event); };
     setWidget(m_shown);
   }

@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QResizeEvent>
+#include <QScopeGuard>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 
@@ -34,8 +35,9 @@ class CellDelegate : public QStyledItemDelegate {
 
 } // namespace
 
-TableWidget::TableWidget(CTableWnd& table)
-    : m_table(table), m_model(new TableModel(table, this)), m_heading(new TableHeading(table, this)) {
+TableWidget::TableWidget(CTableWnd& table, QSettings* settings)
+    : m_table(table), m_model(new TableModel(table, this)), m_heading(new TableHeading(table, this)),
+      m_widths(table, settings) {
   setHorizontalHeader(m_heading);
   setModel(m_model);
   setItemDelegate(new CellDelegate(this));
@@ -47,6 +49,9 @@ TableWidget::TableWidget(CTableWnd& table)
   verticalHeader()->hide();
   verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kRowPadding);
   setHorizontalScrollMode(ScrollPerPixel);
+  connect(m_heading, &QHeaderView::sectionResized, this, [this] {
+    if (!m_layingOut) keepWidths();
+  });
 }
 
 int TableWidget::widthOf(int column) const {
@@ -75,8 +80,21 @@ void TableWidget::layOut() {
   for (int row = 0; row < m_table.GetRowCount(); ++row) layOutRow(row);
 }
 
+void TableWidget::keepWidths() {
+  QList<int> widths;
+  for (int column = 0; column < m_table.GetColumnCount(); ++column)
+    widths.append(isColumnHidden(column) ? 0 : columnWidth(column));
+  m_widths.Keep(widths);
+}
+
 void TableWidget::widenColumns() {
+  const bool outer = std::exchange(m_layingOut, true);
+  const QScopeGuard over([this, outer] { m_layingOut = outer; });
   const int columns = m_model->columnCount();
+  const QList<int> given = m_widths.Given();
+  for (int column = 0; column < given.size(); ++column)
+    if (given[column] > 0) setColumnWidth(column, given[column]);
+  if (!given.isEmpty()) return;
   int wanted = 0;
   int last = -1;
   for (int column = 0; column < columns; ++column) {
@@ -109,6 +127,8 @@ QSize TableWidget::sizeHint() const {
 }
 
 void TableWidget::follow(const UiChange& change) {
+  const bool outer = std::exchange(m_layingOut, true);
+  const QScopeGuard over([this, outer] { m_layingOut = outer; });
   switch (change.kind) {
   case UiChange::Kind::look:
     viewport()->update();

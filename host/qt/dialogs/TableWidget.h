@@ -1,6 +1,7 @@
 // The widget of a table: hands over clicks and keys, and shows the editor of the cell that stands open.
 #pragma once
 
+#include "host/qt/dialogs/ColumnWidths.h"
 #include "host/ui/CTableWnd.h"
 
 #include <QTableView>
@@ -17,7 +18,8 @@ class TableModel;
 
 class TableWidget : public QTableView {
  public:
-  explicit TableWidget(CTableWnd& table);
+  // Widths that the user gives columns are kept in the settings, if any.
+  TableWidget(CTableWnd& table, QSettings* settings);
   using Event = std::function<UiOutcome()>;
   // Runs an event of the user.
   std::function<void(const Event&)> obey;
@@ -42,8 +44,9 @@ class TableWidget : public QTableView {
   QPoint cellAt(const QPoint& at) const; // x the column, y the row; -1 for none
   void layOut();
   void layOutRow(int row);
-  // Columns share width that is left over.
+  // Columns have the widths that the user gave them, or share what is left over.
   void widenColumns();
+  void keepWidths();
   int widthOf(int column) const;
   void followEdit();
   void openEditor();
@@ -62,7 +65,9 @@ class TableWidget : public QTableView {
   int m_editRow = -1;
   int m_editColumn = -1;
   QPoint m_pressed{-1, -1}; // the cell that the button went down on
+  ColumnWidths m_widths;
   bool m_filling = false;
+  bool m_layingOut = false; // widths that change meanwhile are not the user's
 };
 
 } // namespace desktop

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int kNumberWidth = 48;
+constexpr int kNumberWidth = 40;
 constexpr int kFieldColumns = static_cast<int>(std::size(kLayerFields));
 constexpr int kFirstField = 1; // the number stands before
 // What can't be edited is blue on grey.

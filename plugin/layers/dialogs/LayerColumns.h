@@ -19,14 +19,14 @@ struct LayerColumn {
 
 // In the order of kLayerFields.
 inline constexpr LayerColumn kLayerColumns[] = {
-    {L"图层标识", 130, LayerChooser::none, nullptr, nullptr},
+    {L"图层标识", 124, LayerChooser::none, nullptr, nullptr},
     {L"图层名称", 190, LayerChooser::none, L"图层名称", nullptr},
-    {L"颜色", 56, LayerChooser::colour, L"图层颜色", L"256"},
-    {L"线型", 110, LayerChooser::linetype, L"图层线型", nullptr},
+    {L"颜色", 46, LayerChooser::colour, L"图层颜色", L"256"},
+    {L"线型", 100, LayerChooser::linetype, L"图层线型", nullptr},
     {L"线型比例", 72, LayerChooser::none, L"线型比例", nullptr},
     {L"线宽(mm)", 76, LayerChooser::lineWeight, L"线宽(mm)", L"-0.01"},
-    {L"图层代号", 130, LayerChooser::none, L"图层代号", nullptr},
-    {L"备注", 170, LayerChooser::none, L"图层备注", nullptr},
+    {L"图层代号", 128, LayerChooser::none, L"图层代号", nullptr},
+    {L"备注", 150, LayerChooser::none, L"图层备注", nullptr},
 };
 static_assert(std::size(kLayerColumns) == std::size(kLayerFields));
 

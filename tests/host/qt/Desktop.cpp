@@ -37,6 +37,7 @@ Desktop::Desktop()
   window = std::make_unique<desktop::MainWindow>(feed, titles, settings);
   frontEnd = std::make_unique<desktop::DesktopFrontEnd>(feed, *window);
   dialogs = std::make_unique<desktop::DesktopDialogs>(*window, [this] { feed.wake(); });
+  dialogs->settings = &settings;
   EdSession::instance().setFrontEnd(frontEnd.get());
   UiFrontEnd::Set(dialogs.get());
   window->resize(1000, 800);

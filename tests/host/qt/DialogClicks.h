@@ -3,8 +3,10 @@
 
 #include "tests/host/qt/Desktop.h"
 
+#include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QPushButton>
 #include <QTableView>
 
@@ -81,6 +83,23 @@ class DialogClicks : public Desktop {
     ASSERT_EQ(found.size(), 1) << text;
     list.scrollToItem(found[0]);
     QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(found[0]).center());
+  }
+  // Right-clicks there, and chooses a command of the menu that opens.
+  static void chooseFromMenu(QAbstractScrollArea& area, const QPoint& at, const char* command) {
+    QTimer::singleShot(20, [command] {
+      auto* menu = dynamic_cast<QMenu*>(QApplication::activePopupWidget());
+      ASSERT_TRUE(menu);
+      for (QAction* action : menu->actions())
+        if (action->text() == QString::fromUtf8(command)) menu->setActiveAction(action);
+      EXPECT_TRUE(menu->activeAction()) << command;
+      QTest::keyClick(menu, menu->activeAction() ? Qt::Key_Return : Qt::Key_Escape);
+    });
+    QContextMenuEvent event(QContextMenuEvent::Mouse, at, area.viewport()->mapToGlobal(at));
+    QApplication::sendEvent(area.viewport(), &event);
+  }
+  static void chooseFromMenu(const char* table, int row, const char* command) {
+    auto& shown = find<QTableView>(table);
+    chooseFromMenu(shown, cell(shown, row, 0), command);
   }
   static QWidget& editor() { return find<QWidget>("cellEditor"); }
   static void typeInto(QWidget& widget, const char* text) { TypeText(&widget, QString::fromUtf8(text)); }

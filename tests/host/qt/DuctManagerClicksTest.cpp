@@ -1,8 +1,6 @@
 // The manager of duct materials and sizes by clicks and keys.
 #include "tests/host/qt/PlugInDialogs.h"
 
-#include <QContextMenuEvent>
-
 namespace {
 
 class DuctManagerClicks : public PlugInDialogs {
@@ -27,20 +25,8 @@ class DuctManagerClicks : public PlugInDialogs {
   int manage(Steps steps) {
     return during([] { return ZP::ShowDuctMaterialDlg(nullptr); }, std::move(steps));
   }
-  // Right-clicks a row of the thicknesses and goes down that many commands of the menu.
-  static std::function<void()> menu(int row, int downs) {
-    return [=] {
-      auto& table = find<QTableView>("风管壁厚");
-      const QPoint at = cell(table, row, 0);
-      QTimer::singleShot(20, [downs] {
-        auto* popup = QApplication::activePopupWidget();
-        ASSERT_TRUE(popup);
-        for (int i = 0; i < downs; ++i) QTest::keyClick(popup, Qt::Key_Down);
-        QTest::keyClick(popup, Qt::Key_Return);
-      });
-      QContextMenuEvent event(QContextMenuEvent::Mouse, at, table.viewport()->mapToGlobal(at));
-      QApplication::sendEvent(table.viewport(), &event);
-    };
+  static std::function<void()> menu(int row, const char* command) {
+    return [=] { chooseFromMenu("风管壁厚", row, command); };
   }
   CZPDuctMaterialManager& catalogue = *CZPDuctMaterialManager::GetInstance();
   CZPDuctMaterial* steel = nullptr;
@@ -70,7 +56,7 @@ TEST_F(DuctManagerClicks, AreToldWhatIsNoThickness) {
 }
 
 TEST_F(DuctManagerClicks, AddAndDeleteThicknessesByTheMenu) {
-  manage({menu(1, 1), [this] { EXPECT_EQ(steel->m_arrThickness.GetSize(), 2); }, menu(1, 2)});
+  manage({menu(1, "新建"), [this] { EXPECT_EQ(steel->m_arrThickness.GetSize(), 2); }, menu(1, "删除")});
   ASSERT_EQ(steel->m_arrThickness.GetSize(), 1);
   EXPECT_EQ(steel->m_arrThickness[0].dbMax, 0) << "the zero row is left";
 }

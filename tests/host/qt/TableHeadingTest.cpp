@@ -2,6 +2,7 @@
 #include "tests/host/qt/DialogView.h"
 
 #include <QHeaderView>
+#include <QRegularExpression>
 #include <QScrollBar>
 
 namespace {
@@ -9,6 +10,17 @@ namespace {
 class TableHeadings : public DialogView {
  protected:
   static QTableView& grid() { return find<QTableView>("表格"); }
+  // Drags the right border of the first column.
+  static void widen(int by) {
+    auto& header = *grid().horizontalHeader();
+    const QPoint from(header.sectionViewportPosition(0) + header.sectionSize(0) - 1, header.height() / 2);
+    const QPoint to = from + QPoint(by, 0);
+    QTest::mousePress(header.viewport(), Qt::LeftButton, {}, from);
+    QMouseEvent move(QEvent::MouseMove, to, header.viewport()->mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
+                     Qt::NoModifier);
+    QApplication::sendEvent(header.viewport(), &move);
+    QTest::mouseRelease(header.viewport(), Qt::LeftButton, {}, to);
+  }
   static QImage heading() { return grid().horizontalHeader()->viewport()->grab().toImage(); }
 };
 
@@ -93,6 +105,41 @@ TEST_F(TableHeadings, SpanTheWidthOfTheTable) {
           dialog.grid.SetColumnWidth(0, 5000);
         },
         [&] { EXPECT_LT(spanned(grid()), 0) << "what has no room is scrolled to"; }});
+}
+
+TEST_F(TableHeadings, KeepTheWidthThatTheUserGivesAColumn) {
+  int wide = 0;
+  const auto same = [&wide] { EXPECT_EQ(wide, grid().columnWidth(0)); };
+  show({[&] {
+          const int before = grid().columnWidth(0);
+          widen(37);
+          wide = grid().columnWidth(0);
+          EXPECT_EQ(before + 37, wide);
+          dialog.grid.AddRow({L"3", L"1"});
+        },
+        same, [&] { top()->resize(top()->width() + 101, top()->height()); }, same,
+        [&] { dialog.grid.AddColumn(L"", 80); },
+        [&] { EXPECT_NE(wide, grid().columnWidth(0)) << "the columns are others"; }});
+  show({[&] { EXPECT_NE(wide, grid().columnWidth(0)) << "a table without a name for its state"; }});
+}
+
+TEST_F(TableHeadings, KeepWidthsFromOneOpeningToTheNext) {
+  dialog.grid.SetStateName(L"测试 表/名");
+  int wide = 0;
+  show({[&] {
+    widen(37);
+    wide = grid().columnWidth(0);
+  }});
+  show({[&] { EXPECT_EQ(wide, grid().columnWidth(0)); }});
+  const QStringList kept = settings.allKeys().filter(QRegularExpression(QStringLiteral("^columns/")));
+  ASSERT_EQ(1, kept.size()) << "one table has a name for its state";
+  for (const char* damaged : {"", "x,y", "-5,40", "99999999,40", "40"}) {
+    settings.setValue(kept[0], QString::fromUtf8(damaged).split(QLatin1Char(',')));
+    show({[&] {
+      EXPECT_GT(grid().columnWidth(0), 40) << damaged;
+      EXPECT_LT(grid().columnWidth(0), 2000) << damaged;
+    }});
+  }
 }
 
 } // namespace
