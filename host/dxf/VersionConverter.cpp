@@ -3,6 +3,7 @@
 #include "host/db/AcDbBlockTable.h"
 #include "host/db/AcDbDictionary.h"
 #include "host/db/AcDbEntity.h"
+#include "host/db/AcDbXrecord.h"
 #include "host/db/DxfRecordEditor.h"
 #include "host/db/DxfText.h"
 #include "host/dxf/FileEncoding.h"
@@ -58,6 +59,11 @@ bool dxf::VersionConverter::hasSection(std::string_view name) {
   if (name == "ACDSDATA" && m_target < kR2013) return false; // what stands in it is told of its solids
   if (!m_toR12 || m_fromR12) return true;
   if (name == "THUMBNAILIMAGE") m_losses.add(L"预览图");
+  // Of the objects only these hold what users and plug-ins have put there; the rest goes with what it
+  // describes.
+  if (name == "OBJECTS")
+    for (const AcDbObjectId& id : m_database.objects())
+      if (!id.isErased() && AcDbXrecord::cast(id.object())) m_losses.add(L"扩展记录");
   return name == "HEADER" || name == "TABLES" || name == "BLOCKS" || name == "ENTITIES";
 }
 

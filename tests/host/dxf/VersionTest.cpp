@@ -129,6 +129,19 @@ TEST(Version, R12GetsAPolylineWithVertices) {
               ElementsAre("R12 格式不能保存：文件头变量（1 处）", "R12 格式不能保存：线宽（1 处）"));
 }
 
+TEST(Version, R12HasNoPlaceForTheRecordsOfEntities) {
+  const std::string drawing =
+      withApplication("0 LINE\n5 A1\n102 {ACAD_XDICTIONARY\n360 A2\n102 }\n330 1F\n100 AcDbEntity\n8 0\n"
+                      "100 AcDbLine\n10 0\n20 0\n30 0\n11 1\n21 0\n31 0\n0 ENDSEC\n0 SECTION\n2 OBJECTS\n"
+                      "0 DICTIONARY\n5 C\n330 0\n100 AcDbDictionary\n"
+                      "0 DICTIONARY\n5 A2\n330 A1\n100 AcDbDictionary\n3 局部阻力\n360 A3\n"
+                      "0 XRECORD\n5 A3\n330 A2\n100 AcDbXrecord\n280 1\n90 7",
+                      "AC1015");
+  EXPECT_THAT(savedAs(Open(drawing), dxf::kR12).losses,
+              testing::Contains("R12 格式不能保存：扩展记录（1 处）"));
+  EXPECT_THAT(savedAs(Open(drawing), "AC1032").losses, IsEmpty());
+}
+
 TEST(Version, R12GetsTheLinesOfATextWithFormatting) {
   const Opened opened = Open(withApplication(
       "0 MTEXT\n5 A1\n330 1F\n100 AcDbEntity\n8 0\n100 AcDbMText\n10 100\n20 200\n30 0\n40 10\n71 1\n"
