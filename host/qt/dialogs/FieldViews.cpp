@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMouseEvent>
+#include <QPalette>
 #include <QPlainTextEdit>
 
 #include <algorithm>
@@ -32,6 +33,14 @@ void SetText(QLineEdit& line, const CString& text) {
   line.setCursorPosition(std::min(at, static_cast<int>(wanted.size())));
 }
 
+// What can't be typed in doesn't stand out from the window as fields do.
+template <class Field> void SetReadOnly(Field& field, bool readOnly) {
+  field.setReadOnly(readOnly);
+  QPalette palette;
+  if (readOnly) palette.setColor(QPalette::Base, palette.color(QPalette::Window));
+  field.setPalette(palette);
+}
+
 class EditView : public ControlView {
  public:
   EditView(CEdit& control, FormContext& context)
@@ -50,7 +59,7 @@ class EditView : public ControlView {
 
  private:
   void sync(const UiChange&) override {
-    m_line->setReadOnly(m_edit.IsReadOnly());
+    SetReadOnly(*m_line, m_edit.IsReadOnly());
     SetText(*m_line, m_edit.GetText());
   }
   CEdit& m_edit;
@@ -76,7 +85,7 @@ class MultiLineView : public ControlView {
 
  private:
   void sync(const UiChange&) override {
-    m_text->setReadOnly(m_edit.IsReadOnly());
+    SetReadOnly(*m_text, m_edit.IsReadOnly());
     if (const QString text = ToQt(m_edit.GetText()); m_text->toPlainText() != text)
       m_text->setPlainText(text);
   }
@@ -126,9 +135,9 @@ class NumberView : public ControlView {
  private:
   void sync(const UiChange&) override {
     if (m_box)
-      m_box->setReadOnly(m_edit.IsReadOnly());
+      SetReadOnly(*m_box, m_edit.IsReadOnly());
     else
-      m_line->setReadOnly(m_edit.IsReadOnly());
+      SetReadOnly(*m_line, m_edit.IsReadOnly());
     SetText(*m_line, m_edit.GetText());
   }
   CNumberEdit& m_edit;

@@ -306,6 +306,15 @@ TEST_F(DialogView, TurnsThePagesOfATabSheet) {
   EXPECT_TRUE(dialog.first.name.GetText().IsEmpty());
 }
 
+TEST_F(DialogView, ShowsWhatIsReadOnlyOnTheGroundOfTheWindow) {
+  const auto ground = [](const char* field) { return find<QWidget>(field).palette().color(QPalette::Base); };
+  const QColor around = QApplication::palette().color(QPalette::Window);
+  show({[&] { EXPECT_EQ(QColor(Qt::white), ground("文字：")); }, [&] { dialog.text.SetReadOnly(true); },
+        [&] { EXPECT_EQ(around, ground("文字：")); }, [&] { dialog.number.SetReadOnly(true); },
+        [&] { EXPECT_EQ(around, ground("数值：")); }, [&] { dialog.text.SetReadOnly(false); },
+        [&] { EXPECT_EQ(QColor(Qt::white), ground("文字：")); }});
+}
+
 TEST_F(DialogView, FollowsWhatIsDisabledHiddenAndFocused) {
   show({[&] { dialog.text.EnableWindow(false); },
         [&] { EXPECT_FALSE(find<QLineEdit>("文字：").isEnabled()); }, [&] { dialog.tick.ShowWindow(false); },
