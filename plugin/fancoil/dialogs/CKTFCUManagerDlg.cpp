@@ -121,9 +121,10 @@ void CKTFCUManagerDlg::OnOK() {
   if (m_bCanClose) CDialog::OnOK();
 }
 
+// A model that was deleted is not there to be selected, though one of its name may be.
 void CKTFCUManagerDlg::FillTree() {
   m_tree.Fill(m_catalogue, {m_szInstallFilter, m_szStructFilter});
-  m_tree.SelectModel(m_pCurrent);
+  m_tree.SelectModel(Equipment());
 }
 
 void CKTFCUManagerDlg::ShowCurrent() {

@@ -1,3 +1,5 @@
+#include "host/db/AcDbCurves.h"
+#include "host/ed/ArxDbgUtils.h"
 #include "host/ui/CAcUiDockControlBar.h"
 #include "tests/host/qt/DialogView.h"
 
@@ -338,6 +340,28 @@ TEST_F(DialogView, StepsAsideForAPickInTheDrawing) {
   show({[&] { press("添加"); }, [&] { EXPECT_TRUE(top() && top()->isVisible()); }});
   EXPECT_TRUE(hidden);
   EXPECT_EQ(CString(L"8,9"), dialog.text.GetText());
+}
+
+TEST_F(DialogView, ShowsAllOfADrawingInAPreview) {
+  const AcGePoint3d corners[] = {{0, 0, 0}, {500, 0, 0}, {500, 300, 0}, {0, 300, 0}};
+  for (int i = 0; i < 4; ++i)
+    ASSERT_EQ(ArxDbgUtils::addToCurrentSpaceAndClose(new AcDbLine(corners[i], corners[(i + 1) % 4])),
+              Acad::eOk);
+  dialog.preview.SetDrawing(curDoc()->database());
+  QImage image;
+  show({[&] { image = find<QWidget>("预览").grab().toImage(); }});
+  const auto isLine = [&](int x, int y) { return qGray(image.pixel(x, y)) < 64; };
+  QRect box;
+  for (int x = 0; x < image.width(); ++x)
+    for (int y = 0; y < image.height(); ++y)
+      if (isLine(x, y)) box |= QRect(x, y, 1, 1);
+  ASSERT_GT(box.height(), image.height() / 2);
+  for (const int y : {box.top(), box.bottom()})
+    for (int x = box.left(); x <= box.right(); ++x) EXPECT_TRUE(isLine(x, y)) << x << "," << y;
+  for (const int x : {box.left(), box.right()})
+    for (int y = box.top(); y <= box.bottom(); ++y) EXPECT_TRUE(isLine(x, y)) << x << "," << y;
+  EXPECT_NEAR(static_cast<double>(box.width()) / box.height(), 500.0 / 300, 0.05) << "nothing is cut off";
+  dialog.preview.SetDrawing(nullptr);
 }
 
 TEST_F(DialogView, AnswersAMessageBox) {

@@ -304,6 +304,32 @@ TEST_F(FanCoilManagerDlg, GoesOnShowingADeletedModelUntilAnotherIsSelected) {
   EXPECT_EQ(Outline(), L"甲{B C N }乙{A }");
 }
 
+TEST_F(FanCoilManagerDlg, SelectsNoOtherModelForADeletedOne) {
+  In([&](Dlg& dialog) {
+    frontEnd.answers = {IDOK};
+    EXPECT_TRUE(dialog.m_delete.UserClick());
+    Next([&](AddDlg& add) {
+      Set(add.m_properties, L"设备型号", L"A"); // the name of the deleted one
+      EXPECT_TRUE(add.m_ok.UserClick());
+    });
+    EXPECT_TRUE(dialog.m_add.UserClick());
+    EXPECT_EQ(Outline(dialog.m_tree), L"风机盘管(甲(B C A )乙(A ))");
+    EXPECT_FALSE(dialog.Equipment());
+  });
+}
+
+TEST_F(FanCoilManagerDlg, SelectsTheVeryModelWhereANameStandsTwice) {
+  Find(L"C", L"甲")->SetName(L"B");
+  Dlg dialog(first->m_arrEquipments[2], nullptr);
+  dialogtest::Run<Dlg>(frontEnd, dialog, [&](Dlg& open) {
+    EXPECT_EQ(Outline(open.m_tree), L"风机盘管(甲(A B [B] )乙(A ))");
+    frontEnd.answers = {IDOK};
+    EXPECT_TRUE(open.m_delete.UserClick());
+  });
+  EXPECT_EQ(Outline(), L"甲{A B }乙{A }");
+  EXPECT_EQ(first->m_arrEquipments[1]->m_data.szStructStyle, L"卧式") << "the other one stays";
+}
+
 TEST_F(FanCoilManagerDlg, DeletesAMakerWithItsModels) {
   In([&](Dlg& dialog) {
     EXPECT_TRUE(dialog.m_tree.UserSelect(Item(dialog.m_tree, L"甲")));
