@@ -133,6 +133,15 @@ TEST_F(ResistanceClicks, FillASection) {
   EXPECT_EQ(section.m_dOtherCoe, 0.25);
 }
 
+TEST_F(ResistanceClicks, ChooseAmongNamesOfAnyLength) {
+  store.m_arrPartsCoe[0].szName = CString(std::wstring(100000, L'长'));
+  store.m_arrPartsCoe[1].szName = L"一\n二\U0001F600";
+  settle(join({choose(1, 0), choose(2, 1), {pressing("确定")}}));
+  ASSERT_EQ(section.m_arrParts.GetSize(), 2);
+  EXPECT_EQ(section.m_arrParts[0].GetName(), store.m_arrPartsCoe[0].szName);
+  EXPECT_EQ(section.m_arrParts[1].GetName(), store.m_arrPartsCoe[1].szName);
+}
+
 TEST_F(ResistanceClicks, TakeARowAwayByTheEmptyEntry) {
   for (const wchar_t* name : {L"闸阀", L"弯头"}) {
     CZPPipeParts part(name, 2);
