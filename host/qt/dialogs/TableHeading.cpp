@@ -27,6 +27,7 @@ QPoint OwnerOf(const CTableWnd& table, int row, int column) {
 TableHeading::TableHeading(CTableWnd& table, QWidget* parent)
     : QHeaderView(Qt::Horizontal, parent), m_table(table) {
   setHighlightSections(false);
+  setMinimumSectionSize(kPadding); // narrow columns are meant to be so: with another width they would not fit
 }
 
 int TableHeading::rows() const {

@@ -37,7 +37,7 @@ UiLayout CZPLayerManagerDlg::Layout() {
   return ui::Column({
       ui::Row({ui::Item(m_schemes).Size(220, 0), ui::Item(m_add), ui::Item(m_remove), ui::Item(m_rename),
                ui::Space()}),
-      ui::Row({ui::Item(m_tree.m_tree).Size(190, 400), ui::Item(m_grid).Stretch(1).Size(970, 400)})
+      ui::Row({ui::Item(m_tree.m_tree).Size(190, 400), ui::Item(m_grid).Stretch(1).Size(976, 400)})
           .Stretch(1),
       ui::Row({ui::Item(m_restore).Size(96, 0), ui::Item(m_apply).Size(124, 0), ui::Space(),
                ui::Item(m_cancel), ui::Item(m_ok)}),

@@ -26,7 +26,7 @@ inline constexpr LayerColumn kLayerColumns[] = {
     {L"线型比例", 72, LayerChooser::none, L"线型比例", nullptr},
     {L"线宽(mm)", 76, LayerChooser::lineWeight, L"线宽(mm)", L"-0.01"},
     {L"图层代号", 128, LayerChooser::none, L"图层代号", nullptr},
-    {L"备注", 150, LayerChooser::none, L"图层备注", nullptr},
+    {L"备注", 140, LayerChooser::none, L"图层备注", nullptr},
 };
 static_assert(std::size(kLayerColumns) == std::size(kLayerFields));
 

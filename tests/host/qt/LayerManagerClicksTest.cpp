@@ -1,12 +1,12 @@
 // The layer manager by clicks and keys.
-#include "plugin/layers/CZPGroupLayer.h"
-#include "plugin/layers/CZPManagerLayer.h"
-#include "plugin/layers/CZPSystemLayer.h"
+#include "plugin/base/NumberText.h"
 #include "plugin/layers/dialogs/CZPLayerManagerDlg.h"
 #include "plugin/layers/dialogs/LayerColumns.h"
 #include "tests/host/qt/PlugInDialogs.h"
+#include "tests/host/qt/SmallScheme.h"
 #include "tests/support/WorkingDrawing.h"
 
+#include <QScrollBar>
 #include <QTreeWidget>
 
 namespace {
@@ -15,24 +15,6 @@ constexpr const char* kTable = "图层列表";
 
 class LayerManagerClicks : public PlugInDialogs {
  protected:
-  LayerManagerClicks() {
-    scheme.RemoveAll();
-    scheme.SetPlanName(L"默认方案");
-    auto* category = new CZPSystemLayer;
-    category->SetName(L"采暖");
-    scheme.Add(category);
-    auto* group = new CZPGroupLayer;
-    group->SetName(L"管线");
-    category->Add(group);
-    for (const wchar_t* name : {L"供水", L"回水"}) {
-      auto* layer = new CZPLayer;
-      layer->SetKorLayer(name);
-      layer->SetUserLayer(CString(L"暖通-") + name);
-      group->Add(layer);
-    }
-    EXPECT_TRUE(scheme.SaveData());
-  }
-  ~LayerManagerClicks() override { scheme.RemoveAll(); }
   int manage(Steps steps) {
     return during([] { return CZPLayerManagerDlg().DoModal(); }, std::move(steps));
   }
@@ -58,7 +40,8 @@ class LayerManagerClicks : public PlugInDialogs {
     };
   }
   CZPLayer* layer(const wchar_t* identifier) { return scheme.GetLayer(identifier); }
-  CZPManagerLayer& scheme = *CZPManagerLayer::GetInstance();
+  SmallScheme small;
+  CZPManagerLayer& scheme = small.scheme;
 };
 
 TEST_F(LayerManagerClicks, EditANameAndSaveItByOk) {
@@ -102,6 +85,16 @@ TEST_F(LayerManagerClicks, MakeAGroupWithALayerByTheMenus) {
   ASSERT_EQ(scheme.Categories()[0]->Groups().GetSize(), 2);
   EXPECT_EQ(scheme.Categories()[0]->Groups()[1]->GetName(), L"标注");
   EXPECT_NE(layer(L"Layer1"), nullptr);
+}
+
+TEST_F(LayerManagerClicks, SeeAllColumnsWhateverNodeIsSelected) {
+  for (int i = 0; i < 60; ++i) small.Add(CString(L"标识") + ZP::itoa(i), L"图层");
+  auto* group = new CZPGroupLayer;
+  group->SetName(L"空组");
+  scheme.Categories()[0]->Add(group);
+  const auto allInView = [] { EXPECT_EQ(find<QTableView>(kTable).horizontalScrollBar()->maximum(), 0); };
+  const auto settle = [] { QTest::qWait(50); };
+  manage({settle, allInView, clickNode("空组"), settle, allInView, clickNode("管线"), settle, allInView});
 }
 
 TEST_F(LayerManagerClicks, AreToldThatANameIsMissing) {

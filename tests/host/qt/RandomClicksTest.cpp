@@ -5,11 +5,13 @@
 #include "plugin/fancoil/dialogs/CKTFCUManagerDlg.h"
 #include "plugin/frame/CZPSystemSettingsDlg.h"
 #include "plugin/graph/DrawingSettings.h"
+#include "plugin/layers/dialogs/CZPLayerManagerDlg.h"
 #include "plugin/pipes/CZPPipeMaterialManager.h"
 #include "plugin/resistance/CZPLocalResistanceSettings.h"
 #include "plugin/resistance/dialogs/ShowResistanceDialogs.h"
 #include "tests/host/qt/FanCoilCatalogue.h"
 #include "tests/host/qt/PlugInDialogs.h"
+#include "tests/host/qt/SmallScheme.h"
 #include "tests/plugin/resistance/ShippedStore.h"
 
 #include <random>
@@ -155,6 +157,16 @@ TEST_P(RandomClicks, KeepFanCoilsAsTheyAreShown) {
   EXPECT_EQ(catalogue.manager.ReadData(), 1);
   EXPECT_EQ(catalogue.manager.m_arrFactories.GetSize(), makers);
   EXPECT_EQ(catalogue.manager.GetInitialFCU() != nullptr, some);
+}
+
+TEST_P(RandomClicks, KeepLayerSchemesUsable) {
+  SmallScheme small;
+  CZPManagerLayer& scheme = small.scheme;
+  play([] { return static_cast<int>(CZPLayerManagerDlg().DoModal()); });
+  const auto names = layers::SchemeNames();
+  EXPECT_NE(std::find(names.begin(), names.end(), scheme.GetPlanName()), names.end());
+  EXPECT_TRUE(scheme.ReadData(scheme.GetPlanName())) << "the scheme that is active has a file";
+  EXPECT_TRUE(scheme.IsExist(L"回水")) << "nothing here can delete a layer";
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, RandomClicks, testing::Range(1u, 4u));

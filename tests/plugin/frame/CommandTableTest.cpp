@@ -6,6 +6,7 @@
 #include "plugin/layers/LayerService.h"
 #include "tests/support/ScriptedEditor.h"
 #include "tests/support/TempInstall.h"
+#include "tests/support/UiFrontEndScript.h"
 
 namespace {
 
@@ -49,6 +50,21 @@ TEST(CommandTable, ForwardsTheLayerCommandsAsTheyAre) {
 
 TEST(CommandTable, ImportsOldFanCoilsWithoutADialog) {
   EXPECT_EQ(CommandTable()[19].handler, &fancoil::ImportOldCatalogue);
+}
+
+TEST(CommandTable, OpensTheLayerManagerWithTheResourcesAndNoParent) {
+  const TempInstall install;
+  ScriptedEditor editor;
+  UiFrontEndScript frontEnd;
+  std::size_t depth = 0;
+  frontEnd.runs = {[&](CDialog& dialog) {
+    EXPECT_EQ(dialog.GetCaption().Left(5), L"图层管理器");
+    EXPECT_EQ(dialog.GetParent(), nullptr);
+    depth = acDocManagerPtr()->resourceDepth();
+  }};
+  CommandTable()[4].handler();
+  EXPECT_EQ(depth, 1u);
+  EXPECT_EQ(acDocManagerPtr()->resourceDepth(), 0u);
 }
 
 // The commands that only say so: whoever provides one takes it off this list.
