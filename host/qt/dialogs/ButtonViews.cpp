@@ -31,6 +31,15 @@ QString WithKey(const CString& caption) {
   return text;
 }
 
+// Lines that no window has room for are cut: names in a label may be of any length.
+QString Cut(const QString& text) {
+  constexpr qsizetype longest = 80; // characters
+  QStringList lines = text.split(QLatin1Char('\n'));
+  for (QString& line : lines)
+    if (line.size() > longest) line = line.left(longest) + QStringLiteral("……");
+  return lines.join(QLatin1Char('\n'));
+}
+
 class LabelView : public ControlView {
  public:
   LabelView(CStatic& control, FormContext& context) : ControlView(control, context), m_label(new QLabel) {
@@ -39,7 +48,7 @@ class LabelView : public ControlView {
   }
 
  private:
-  void sync(const UiChange&) override { m_label->setText(Shown(control().GetCaption())); }
+  void sync(const UiChange&) override { m_label->setText(Cut(Shown(control().GetCaption()))); }
   QLabel* m_label;
 };
 

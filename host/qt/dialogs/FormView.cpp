@@ -160,7 +160,9 @@ QWidget* FormView::makeControl(const UiLayout& layout, QWidget** label) {
   QWidget* widget = view->widget();
   if (layout.width > 0) {
     widget->setMinimumWidth(layout.width);
-    if (layout.stretch == 0 && HasLabelBeside(layout.control->Kind())) widget->setMaximumWidth(layout.width);
+    const UiKind sized = layout.control->Kind();
+    if (layout.stretch == 0 && (HasLabelBeside(sized) || sized == UiKind::button))
+      widget->setMaximumWidth(layout.width);
   }
   if (layout.height > 0) widget->setMinimumHeight(layout.height);
   const UiKind kind = layout.control->Kind();

@@ -4,6 +4,7 @@
 #include "host/qt/dialogs/TableColours.h"
 
 #include <QPainter>
+#include <QPixmap>
 
 #include <algorithm>
 
@@ -77,8 +78,13 @@ QSize TableHeading::sizeHint() const {
   return {QHeaderView::sizeHint().width(), rowTop(rows())};
 }
 
-void TableHeading::paintCell(QPainter& painter, const QRect& cell, const CString& text) const {
+void TableHeading::paintCell(QPainter& painter, const QRect& cell, const CString& text,
+                             const QPixmap& picture) const {
   painter.fillRect(cell, kHeadingColour);
+  const QSizeF size = picture.deviceIndependentSize();
+  const QRectF place(cell);
+  if (!picture.isNull())
+    painter.drawPixmap(place.center() - QPointF(size.width() / 2, size.height() / 2), picture);
   painter.setPen(kGridColour);
   painter.drawLine(cell.topRight(), cell.bottomRight());
   painter.drawLine(cell.bottomLeft(), cell.bottomRight());
@@ -98,7 +104,8 @@ void TableHeading::paintRow(QPainter& painter, int row, int column) const {
   const int last = std::min(owner.y() + std::max(cell.spanRows, 1), rows());
   const QRect whole(sectionViewportPosition(owner.x()), rowTop(owner.y()), width,
                     rowTop(last) - rowTop(owner.y()));
-  paintCell(painter, whole, cell.text);
+  const QVariant picture = model()->index(owner.y(), owner.x()).data(Qt::DecorationRole);
+  paintCell(painter, whole, cell.text, picture.value<QPixmap>());
 }
 
 void TableHeading::paintSection(QPainter* painter, const QRect& section, int column) const {

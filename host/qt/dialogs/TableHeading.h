@@ -28,7 +28,8 @@ class TableHeading : public QHeaderView {
   int rowHeight(int row) const;
   int rowTop(int row) const;
   QFont headingFont() const;
-  void paintCell(QPainter& painter, const QRect& cell, const CString& text) const;
+  void paintCell(QPainter& painter, const QRect& cell, const CString& text,
+                 const QPixmap& picture = {}) const;
   void paintRow(QPainter& painter, int row, int column) const;
 
   CTableWnd& m_table;

@@ -115,6 +115,18 @@ TEST_F(DialogView, FindsTypedEntriesOfADropDownListAndEndsByEnter) {
   EXPECT_EQ(1, dialog.free.GetCurSel());
 }
 
+TEST_F(DialogView, CutsTheLinesOfALabelThatNoWindowHasRoomFor) {
+  QString shown;
+  int width = 0;
+  show({[&] { dialog.label.SetCaption(L"短\n" + CString(std::wstring(100000, L'长'))); },
+        [&] {
+          shown = find<QLabel>("说明").text();
+          width = top()->width();
+        }});
+  EXPECT_EQ(QStringLiteral("短\n") + QString(80, QChar(u'长')) + QStringLiteral("……"), shown);
+  EXPECT_LT(width, 2000);
+}
+
 TEST_F(DialogView, ShowsTheLinesOfALabel) {
   dialog.label.SetCaption(L"系数a：0.20 \r\n\r\n系数b\r：1.20");
   QString shown;

@@ -51,6 +51,22 @@ TEST_F(TableHeadings, ShowTheTextsOfFixedRowsAsTheyChange) {
   EXPECT_NE(before, after);
 }
 
+TEST_F(TableHeadings, ShowThePicturesOfFixedRows) {
+  QImage red(20, 12, QImage::Format_RGB32);
+  red.fill(Qt::red);
+  const QString file = folder.filePath(QStringLiteral("连接.bmp"));
+  ASSERT_TRUE(red.save(file));
+  dialog.grid.SetItemText(0, 1, CString());
+  dialog.grid.SetCellPicture(0, 1, desktop::FromQt(file));
+  dialog.grid.SetRowHeight(0, 55);
+  QColor middle;
+  show({[&] {
+    const int centre = grid().columnWidth(0) + grid().columnWidth(1) / 2;
+    middle = heading().pixelColor(centre, 27);
+  }});
+  EXPECT_EQ(middle, QColor(Qt::red));
+}
+
 TEST_F(TableHeadings, GrowWithTheirRows) {
   int one = 0, two = 0, none = -1;
   bool visible = true;
