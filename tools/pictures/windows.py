@@ -53,6 +53,11 @@ WINDOWS = {
     "fan-coil-manager": (CHANGED, None),
     "fan-coil-model": (NEW, None),
     "fan-coil-favourites": (CHANGED + ["click 确认", "WB_BZPG", "select 常用风机盘管 FP-68|国标系列"], None),
+    "radiator-calculation": (["KOR_SRQJS"], None),
+    "radiator-calculation-length": (["KOR_SRQJS", "click 散热器管理器", "select 散热器 圆翼型(双排)", "click 确定", "click 计算"],
+                                    None),
+    "correction-factors": (["KOR_SRQJS", "click 支管连接方式修正系数β2/...",
+                            "select 散热器支管连接方式修正系数β2 1 3"], None),
     "section-resistance": (MAIN + ["WB_JBZL", "3000,0"] + SECTION, None),
 }
 
@@ -63,6 +68,9 @@ def take(program, name, scale, folder):
     data = folder / "data"
     shutil.rmtree(data, ignore_errors=True)
     shutil.copytree(SOURCE / "data", data)
+    built = program.parents[1] / "data"  # with the pictures that the build makes of drawings
+    if built.is_dir():
+        shutil.copytree(built, data, dirs_exist_ok=True)
     script = folder / "script.scr"
     script.write_text("\n".join(lines) + "\n", encoding="utf-8")
     screen = folder / "screen.json"
@@ -72,10 +80,12 @@ def take(program, name, scale, folder):
     environment = os.environ | {
         "QT_QPA_PLATFORM": f"offscreen:configfile={screen}",
         "XDG_CONFIG_HOME": str(folder / "config"),
+        "XDG_DATA_HOME": str(folder / "user"),
         "XDG_RUNTIME_DIR": str(folder / "runtime"),
     }
     (folder / "runtime").mkdir(mode=0o700, exist_ok=True)
-    shutil.rmtree(folder / "config", ignore_errors=True)
+    for remains in ("config", "user"):
+        shutil.rmtree(folder / remains, ignore_errors=True)
     command = [program, "--data", data, "--script", script, "--screenshot", picture]
     # From the repository: what the window says of a file must not tell where this one stands.
     command += [drawing.relative_to(SOURCE)] if drawing else []

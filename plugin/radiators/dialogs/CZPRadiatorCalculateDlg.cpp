@@ -16,6 +16,9 @@ namespace {
 using Dlg = CZPRadiatorCalculateDlg;
 
 constexpr int kDecimals = 2;
+// Pixels. The texts of all radiators have room in the width, so that the window doesn't jump.
+constexpr int kTextWidth = 300;
+constexpr int kSmallButton = 32;
 
 struct TemperatureField {
   CComboBox Dlg::*field;
@@ -53,20 +56,27 @@ CZPRadiatorCalculateDlg::CZPRadiatorCalculateDlg(CWnd* parent) : CDialog(L"散�
 
 UiLayout CZPRadiatorCalculateDlg::Layout() {
   const auto withButton = [](CNumberEdit& field, CButton& button) {
-    return ui::Row({ui::Item(field).Stretch(1), ui::Item(button)});
+    return ui::Row({ui::Item(field).Stretch(1), ui::Item(button).Size(kSmallButton, 0)});
   };
   std::vector<UiLayout> factors;
   for (int table = 0; table < radiators::kCorrectionTableCount; ++table)
     factors.push_back(withButton(m_betas[table], m_tables[table]));
   return ui::Column({
-      ui::Group(L"散热器", {ui::Item(m_type), ui::Item(m_name), ui::Item(m_parameters),
-                            ui::Row({ui::Item(m_manager), ui::Space()})}),
-      ui::Group(L"计算公式", {ui::Item(m_formula), ui::Item(m_rule)}),
-      ui::Group(L"计算条件",
-                {withButton(m_load, m_pickRoom), ui::Item(m_supply), ui::Item(m_return), ui::Item(m_room)}),
-      ui::Group(L"修正系数", std::move(factors)),
-      ui::Item(m_result),
-      ui::Row({ui::Space(), ui::Item(m_calculate), ui::Item(m_annotate), ui::Item(m_cancel)}),
+      ui::Row({
+          ui::Column({
+                         ui::Group(L"散热器", {ui::Item(m_type), ui::Item(m_name), ui::Item(m_parameters),
+                                               ui::Row({ui::Item(m_manager), ui::Space()})}),
+                         ui::Group(L"计算公式", {ui::Item(m_formula), ui::Item(m_rule)}),
+                     })
+              .Size(kTextWidth, 0),
+          ui::Column({
+              ui::Group(L"计算条件", {withButton(m_load, m_pickRoom), ui::Item(m_supply), ui::Item(m_return),
+                                      ui::Item(m_room)}),
+              ui::Group(L"修正系数", std::move(factors)),
+          }),
+      }),
+      ui::Row(
+          {ui::Item(m_result), ui::Space(), ui::Item(m_calculate), ui::Item(m_annotate), ui::Item(m_cancel)}),
   });
 }
 

@@ -1,12 +1,15 @@
 // A user without a plan at the widgets themselves: clicks anywhere, presses keys and types, in each dialog of
 // the plug-in and in whatever that opens. Nothing may break, and what the file holds afterwards is what the
 // catalogue holds.
+#include "plugin/base/DefaultValues.h"
 #include "plugin/base/NumberText.h"
 #include "plugin/fancoil/dialogs/CKTFCUManagerDlg.h"
 #include "plugin/frame/CZPSystemSettingsDlg.h"
 #include "plugin/graph/DrawingSettings.h"
 #include "plugin/layers/dialogs/CZPLayerManagerDlg.h"
 #include "plugin/pipes/CZPPipeMaterialManager.h"
+#include "plugin/radiators/CZPRadiatorManager.h"
+#include "plugin/radiators/dialogs/CZPRadiatorCalculateDlg.h"
 #include "plugin/resistance/CZPLocalResistanceSettings.h"
 #include "plugin/resistance/dialogs/ShowResistanceDialogs.h"
 #include "tests/host/qt/FanCoilCatalogue.h"
@@ -167,6 +170,31 @@ TEST_P(RandomClicks, KeepLayerSchemesUsable) {
   EXPECT_NE(std::find(names.begin(), names.end(), scheme.GetPlanName()), names.end());
   EXPECT_TRUE(scheme.ReadData(scheme.GetPlanName())) << "the scheme that is active has a file";
   EXPECT_TRUE(scheme.IsExist(L"回水")) << "nothing here can delete a layer";
+}
+
+TEST_P(RandomClicks, KeepTheCalculationOfRadiatorsGoing) {
+  auto& catalogue = *CZPRadiatorManager::GetInstance();
+  const auto empty = [&] {
+    while (!catalogue.m_arrTypes.IsEmpty()) catalogue.Remove(catalogue.m_arrTypes[0]);
+  };
+  ZP::SetDefaultValuesFile(CString::FromUtf8((install.Root() / "Defaults.idp").string()));
+  empty();
+  catalogue.Add(L"铸铁");
+  for (const wchar_t* name : {L"四柱", L"柱翼"}) {
+    auto* radiator = new CZPRadiator;
+    radiator->SetName(name);
+    catalogue.GetRadiatorType(L"铸铁")->Add(radiator);
+  }
+  // Prompts in the drawing, for which the window steps aside, are answered with a place or with Escape.
+  QTimer answers;
+  QObject::connect(&answers, &QTimer::timeout, [this] {
+    if (!top() && !QApplication::activePopupWidget()) enter(below(2) == 0 ? "0,0" : "*cancel*");
+  });
+  answers.start(0);
+  play([] { return static_cast<int>(CZPRadiatorCalculateDlg(nullptr).DoModal()); });
+  EXPECT_TRUE(catalogue.GetInitialRadiator()) << "the one in use can not be deleted";
+  empty();
+  ZP::SetDefaultValuesFile(L"");
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, RandomClicks, testing::Range(1u, 4u));

@@ -2,17 +2,14 @@
 #pragma once
 
 #include "host/db/AcDbText.h"
-#include "host/ed/ArxDbgUtils.h"
 #include "plugin/base/DefaultValues.h"
 #include "plugin/layers/CZPGroupLayer.h"
 #include "plugin/layers/CZPManagerLayer.h"
 #include "plugin/layers/CZPSystemLayer.h"
 #include "plugin/radiators/dialogs/CZPRadiatorCalculateDlg.h"
 #include "plugin/radiators/dialogs/CZPRadiatorManagerDlg.h"
-#include "plugin/rooms/CTQRoom.h"
-#include "plugin/rooms/RoomRecord.h"
-#include "plugin/rooms/VkDbHvacSpace.h"
 #include "tests/plugin/radiators/RadiatorCatalogueFixture.h"
+#include "tests/support/CalculatedRoom.h"
 #include "tests/support/ScriptedEditor.h"
 #include "tests/support/UiFrontEndScript.h"
 
@@ -84,19 +81,10 @@ class CalculateFixture : public RadiatorCatalogueFixture {
     EXPECT_EQ(dialog.Radiator(), radiator);
   }
 
-  // A room of 6 m by 4 m from the origin, with a record unless told otherwise.
-  static AcDbObjectId AddRoom(double load, double temperature, bool hasRecord = true) {
-    auto* room = new VkDbHvacSpace;
-    room->SetPosition({1000, 2000, 0});
-    room->SetBoundary({{0, 0, 0}, {6000, 0, 0}, {6000, 4000, 0}, {0, 4000, 0}});
-    room->SetTotalHeatLoad(load);
-    EXPECT_EQ(ArxDbgUtils::addToCurrentSpace(room), Acad::eOk);
-    const AcDbObjectId id = room->objectId();
-    room->close();
-    CTQRoom record;
-    record.m_dWinData = temperature;
-    if (hasRecord) ZP::SetTQRoom(id, &record);
-    return id;
+  // Presses the button, and answers the prompt for the place.
+  void Annotate(Dlg& dialog, const wchar_t* place) {
+    editor.lines = {place};
+    EXPECT_TRUE(dialog.m_annotate.UserClick());
   }
   std::vector<const AcDbText*> Texts() {
     std::vector<const AcDbText*> texts;

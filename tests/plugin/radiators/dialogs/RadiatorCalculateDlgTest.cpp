@@ -363,7 +363,7 @@ TEST_F(CorrectionButtons, LeaveTheFieldWhenTheTableIsCancelled) {
 // --- the load of a room
 
 TEST_F(RadiatorCalculation, TakesLoadAndTemperatureOfAPickedRoomAndCalculates) {
-  AddRoom(1850.256, 18.5);
+  AddCalculatedRoom(1850.256, 18.5);
   In([&](Dlg& dialog) {
     editor.lines = {L"0,1000"};
     EXPECT_TRUE(dialog.m_pickRoom.UserClick());
@@ -381,7 +381,7 @@ TEST_F(RadiatorCalculation, TakesLoadAndTemperatureOfAPickedRoomAndCalculates) {
 }
 
 TEST_F(RadiatorCalculation, StepsAsideWhileTheRoomIsPicked) {
-  AddRoom(1000, 20);
+  AddCalculatedRoom(1000, 20);
   In([&](Dlg& dialog) {
     bool visible = true;
     dialog.Changed.Connect([&](const UiChange&) { visible = visible && dialog.IsWindowVisible(); });
@@ -393,7 +393,7 @@ TEST_F(RadiatorCalculation, StepsAsideWhileTheRoomIsPicked) {
 }
 
 TEST_F(RadiatorCalculation, KeepsTheOldLoadButCalculatesWhenThePickIsCancelled) {
-  AddRoom(1850, 18.5);
+  AddCalculatedRoom(1850, 18.5);
   In([&](Dlg& dialog) {
     EXPECT_TRUE(dialog.m_load.UserType(L"2000"));
     EXPECT_TRUE(dialog.m_room.UserType(L"21"));
@@ -411,7 +411,7 @@ TEST_F(RadiatorCalculation, KeepsTheOldLoadButCalculatesWhenThePickIsCancelled) 
 }
 
 TEST_F(RadiatorCalculation, KeepsTheOldLoadForARoomWithoutARecord) {
-  AddRoom(1850, 0, false);
+  AddCalculatedRoom(1850, 0, false);
   In([&](Dlg& dialog) {
     editor.lines = {L"0,1000"};
     EXPECT_TRUE(dialog.m_pickRoom.UserClick());
@@ -421,7 +421,7 @@ TEST_F(RadiatorCalculation, KeepsTheOldLoadForARoomWithoutARecord) {
 }
 
 TEST_F(RadiatorCalculation, TakesARoomsTemperatureForAFixedOutputToo) {
-  AddRoom(1600, 22);
+  AddCalculatedRoom(1600, 22);
   In([&](Dlg& dialog) {
     SwitchTo(dialog, fixed);
     editor.lines = {L"0,1000"};
@@ -437,8 +437,7 @@ TEST_F(RadiatorCalculation, WritesTheNumberWhereTheUserPutsIt) {
   In([&](Dlg& dialog) {
     SwitchTo(dialog, fixed);
     EXPECT_TRUE(dialog.m_calculate.UserClick());
-    editor.lines = {L"500,600"};
-    EXPECT_TRUE(dialog.m_annotate.UserClick());
+    Annotate(dialog, L"500,600");
     EXPECT_FALSE(dialog.HasEnded()) << "open for further work";
     EXPECT_TRUE(dialog.IsWindowVisible());
   });
@@ -463,8 +462,7 @@ TEST_F(RadiatorCalculation, AnnotatesWithTheSettingsOfTheDrawing) {
   In([&](Dlg& dialog) {
     SwitchTo(dialog, panel);
     EXPECT_TRUE(dialog.m_calculate.UserClick());
-    editor.lines = {L"0,0"};
-    EXPECT_TRUE(dialog.m_annotate.UserClick());
+    Annotate(dialog, L"0,0");
   });
   ASSERT_EQ(Texts().size(), 1u);
   EXPECT_EQ(Texts()[0]->height(), 250);
@@ -480,12 +478,10 @@ TEST_F(RadiatorCalculation, AnnotatesTheFieldAsItStandsWithoutCalculating) {
     EXPECT_TRUE(dialog.m_calculate.UserClick());
     EXPECT_TRUE(dialog.m_load.UserType(L"9000"));
     EXPECT_TRUE(dialog.m_result.UserType(L"13"));
-    editor.lines = {L"0,0"};
-    EXPECT_TRUE(dialog.m_annotate.UserClick());
+    Annotate(dialog, L"0,0");
     EXPECT_EQ(dialog.m_result.GetText(), L"13");
     SwitchTo(dialog, panel); // the unit is that of the radiator, the number still that of the one before
-    editor.lines = {L"0,0"};
-    EXPECT_TRUE(dialog.m_annotate.UserClick());
+    Annotate(dialog, L"0,0");
   });
   ASSERT_EQ(Texts().size(), 2u);
   EXPECT_EQ(Texts()[0]->textString(), L"散热器片数:13片");
@@ -498,8 +494,7 @@ TEST_F(RadiatorCalculation, SaysSoWhereTheNumberIsNone) {
   In([&](Dlg& dialog) {
     SwitchTo(dialog, panel);
     EXPECT_TRUE(dialog.m_calculate.UserClick());
-    editor.lines = {L"0,0"};
-    EXPECT_TRUE(dialog.m_annotate.UserClick());
+    Annotate(dialog, L"0,0");
   });
   ASSERT_EQ(Texts().size(), 1u);
   EXPECT_EQ(Texts()[0]->textString(), L"散热器长度:infm");
@@ -507,8 +502,7 @@ TEST_F(RadiatorCalculation, SaysSoWhereTheNumberIsNone) {
 
 TEST_F(RadiatorCalculation, TakesTheNoteAwayWhenItsPlaceIsCancelled) {
   In([&](Dlg& dialog) {
-    editor.lines = {L"*cancel*"};
-    EXPECT_TRUE(dialog.m_annotate.UserClick());
+    Annotate(dialog, L"*cancel*");
     EXPECT_TRUE(dialog.IsWindowVisible());
     EXPECT_FALSE(dialog.HasEnded());
   });
@@ -519,10 +513,7 @@ TEST_F(RadiatorCalculation, AnnotatesOnALockedLayerAndLocksItAgain) {
   const CString name = ZP::GetUserLayer(L"公用标注");
   const AcDbObjectId id = WorkingDrawing::LayerOf(editor.Database(), name);
   AcDbObjectPointer<AcDbLayerTableRecord>(id, AcDb::kForWrite)->setIsLocked(true);
-  In([&](Dlg& dialog) {
-    editor.lines = {L"500,600"};
-    EXPECT_TRUE(dialog.m_annotate.UserClick());
-  });
+  In([&](Dlg& dialog) { Annotate(dialog, L"500,600"); });
   ASSERT_EQ(Texts().size(), 1u);
   EXPECT_TRUE(Texts()[0]->position().isEqualTo({500, 600, 0}));
   EXPECT_TRUE(AcDbObjectPointer<AcDbLayerTableRecord>(id, AcDb::kForRead)->isLocked());
@@ -531,10 +522,7 @@ TEST_F(RadiatorCalculation, AnnotatesOnALockedLayerAndLocksItAgain) {
 
 TEST_F(RadiatorCalculation, AnnotatesOnTheCurrentLayerWhereTheSchemeHasNone) {
   CZPManagerLayer::GetInstance()->RemoveAll();
-  In([&](Dlg& dialog) {
-    editor.lines = {L"0,0"};
-    EXPECT_TRUE(dialog.m_annotate.UserClick());
-  });
+  In([&](Dlg& dialog) { Annotate(dialog, L"0,0"); });
   ASSERT_EQ(Texts().size(), 1u);
   EXPECT_EQ(Texts()[0]->layer(), L"0");
 }
