@@ -31,6 +31,7 @@ layers::SchemeTree::SchemeTree(CDialog& dialog, CZPManagerLayer& scheme)
 HTREEITEM layers::SchemeTree::Insert(CZPLayerObject& node, HTREEITEM parent) {
   HTREEITEM item = m_tree.InsertItem(node.GetName(), parent, &node);
   m_tree.Expand(item);
+  if (parent) m_tree.Expand(parent); // the user may have closed it, and is to see what is new
   return item;
 }
 

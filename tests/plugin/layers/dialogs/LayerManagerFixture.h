@@ -99,6 +99,14 @@ class LayerManagerFixture : public DrawingFixture {
     EXPECT_TRUE(dialog.m_grid.UserOpenMenu(row, 0));
     return Choose(dialog.m_grid.Menu, text);
   }
+  // Selects rows; the last one is the current row.
+  static void SelectRows(Dlg& dialog, std::initializer_list<int> rows) {
+    auto pick = CTableWnd::Pick::only;
+    for (const int row : rows) {
+      EXPECT_TRUE(dialog.m_grid.UserClick(row, layers::kNumberColumn, pick));
+      pick = CTableWnd::Pick::toggle;
+    }
+  }
   // The next dialog asks for a name and gets this one.
   void WillName(const wchar_t* title, const CString& name) {
     frontEnd.runs.push_back([title, name](CDialog& dialog) {

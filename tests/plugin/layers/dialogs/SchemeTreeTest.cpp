@@ -89,8 +89,10 @@ TEST_F(SchemeTreeMenu, AsksForACategorysNameAtAGroupAndMakesNone) {
 
 TEST_F(SchemeTreeMenu, MakesAGroupAtACategoryAndBesideAGroup) {
   In([&](Dlg& dialog) {
+    EXPECT_TRUE(dialog.m_tree.m_tree.UserExpand(Node(dialog, L"采暖"), false));
     WillName(L"新建分组", L" 标注 ");
     EXPECT_TRUE(NodeMenu(dialog, L"采暖", L"新建分组"));
+    EXPECT_TRUE(Node(dialog, L"采暖")->expanded) << "what is new can be seen";
     WillName(L"新建分组", L"阀门");
     EXPECT_TRUE(NodeMenu(dialog, L"管线", L"新建分组"));
     EXPECT_EQ(Tree(dialog), L"全部图层(空调水路(>管线 设备 阀门) 采暖(采暖管线 标注))");
