@@ -32,6 +32,7 @@ int RunInWindow(const Options& options, const fs::path& programFolder, int argc,
   job.drawing = options.job.drawing;
   job.commandTitle = commands::Title;
   job.obeyDialogLine = console::ObeyModalLine;
+  job.obeyBarLine = console::ObeyBarLine;
   if (options.screenshot) job.screenshot = CString::FromUtf8(*options.screenshot);
   return run(&job, argc, argv);
 }

@@ -46,17 +46,7 @@ void ConsoleDialogs::WindowGone(CFormWnd& window) {
 }
 
 bool ConsoleDialogs::ObeyBarLine(const CString& line) {
-  constexpr const wchar_t* word = L"bar";
-  const CString first = CString(line).TrimLeft().SpanExcluding(L" \t");
-  if (first.CompareNoCase(word) != 0) return false;
-  std::erase_if(m_modeless, [](const CFormWnd* window) { return window->HasEnded(); });
-  for (auto window = m_modeless.rbegin(); window != m_modeless.rend(); ++window) {
-    if (!(*window)->IsWindowVisible()) continue;
-    console::ObeyFormLine(**window, CString(line).TrimLeft().Mid(first.GetLength()));
-    return true;
-  }
-  EdSession::instance().refuse(L"没有打开的面板。", L"先执行打开面板的命令");
-  return true;
+  return console::ObeyBarLine(m_modeless, line);
 }
 
 int ConsoleDialogs::ShowMessageBox(const UiMessageBox& box) {

@@ -25,4 +25,18 @@ void ObeyModalLine(CDialog& dialog, const CString& line) {
   EdSession::instance().noteInput(goesOn);
 }
 
+bool ObeyBarLine(const std::vector<CFormWnd*>& windows, const CString& line) {
+  constexpr const wchar_t* word = L"bar";
+  const CString text = CString(line).TrimLeft();
+  const CString first = text.SpanExcluding(L" \t");
+  if (first.CompareNoCase(word) != 0) return false;
+  for (auto window = windows.rbegin(); window != windows.rend(); ++window) {
+    if (!(*window)->IsWindowVisible() || (*window)->HasEnded()) continue;
+    ObeyFormLine(**window, text.Mid(first.GetLength()));
+    return true;
+  }
+  EdSession::instance().refuse(L"没有打开的面板。", L"先执行打开面板的命令");
+  return true;
+}
+
 } // namespace console

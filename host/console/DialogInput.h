@@ -4,6 +4,8 @@
 
 #include "host/afx/CString.h"
 
+#include <vector>
+
 class CDialog;
 class CFormWnd;
 
@@ -13,5 +15,8 @@ void ObeyFormLine(CFormWnd& form, const CString& line);
 // For a dialog that waits for nothing but such lines: an empty one is passed over, and Escape gives up an
 // edit or the dialog.
 void ObeyModalLine(CDialog& dialog, const CString& line);
+// "bar LINE" at the command prompt is a line for the last of the windows that stand beside other work and can
+// be seen. Whether the line was one of those.
+bool ObeyBarLine(const std::vector<CFormWnd*>& windows, const CString& line);
 
 } // namespace console

@@ -106,6 +106,11 @@ class ControlWriter {
     });
     More(count);
   }
+  static CString Colour(COLORREF colour) {
+    CString text;
+    text.Format(L"#%02X%02X%02X", GetRValue(colour), GetGValue(colour), GetBValue(colour));
+    return text;
+  }
   static CString Cells(const CTableWnd& table, int row) {
     CString line;
     bool first = true;
@@ -113,8 +118,10 @@ class ControlWriter {
       const UiCell& cell = table.Cell(row, column);
       if (table.Column(column).width <= 0) continue;
       CString text = cell.text;
+      if (text.IsEmpty() && cell.image >= 0) text = table.ImageName(cell.image);
       if (text.IsEmpty() && cell.image >= 0) text.Format(L"图标%d", cell.image);
       if (text.IsEmpty() && !cell.picture.IsEmpty()) text = L"图片";
+      if (text.IsEmpty() && cell.background) text = Colour(*cell.background);
       line += (first ? L"" : L" | ") + text;
       first = false;
     }

@@ -33,6 +33,9 @@ class DesktopFrontEnd : public EdFrontEnd {
  public:
   DesktopFrontEnd(CommandFeed& feed, DesktopView& view) : m_feed(feed), m_view(view) {}
 
+  // Takes a line that is for a window beside other work. Without it there is no such line.
+  std::function<bool(const CString&)> barLine;
+
   std::optional<CString> readLine(const CString& prompt) override;
   void echo(const CString& prompt, const CString& line, bool typed) override;
   void print(const CString& text) override { m_view.show(text, DesktopView::Tone::said); }
@@ -44,6 +47,7 @@ class DesktopFrontEnd : public EdFrontEnd {
   void viewChanged(AcApDocument&) override { m_view.viewMoved(); }
   std::optional<double> viewAspect() override { return m_view.aspect(); }
   void transientsChanged() override { m_view.redrawOverlay(); }
+  bool takeLine(const CString& line) override { return barLine && barLine(line); }
   bool hasWindows() override { return true; }
   CWnd* mainWindow() override { return m_view.frame(); }
   CWnd* drawingView() override { return m_view.drawingWindow(); }

@@ -3,6 +3,7 @@
 #include "host/afx/AtomicFile.h"
 #include "host/afx/Paths.h"
 #include "host/ed/AcApDocManager.h"
+#include "host/ed/AcEdCommandStack.h"
 #include "host/ed/AcRxDynamicLinker.h"
 #include "host/ed/EdSession.h"
 #include "host/ed/acedCommand.h"
@@ -11,6 +12,7 @@
 #include "host/qt/QtText.h"
 #include "host/qt/Screenshot.h"
 #include "host/qt/Theme.h"
+#include "host/qt/dialogs/BarMemory.h"
 #include "host/qt/dialogs/DesktopDialogs.h"
 #include "host/qt/window/Autosave.h"
 #include "host/qt/window/MainWindow.h"
@@ -81,6 +83,12 @@ void OfferLeft(Autosave& autosave, MainWindow& window) {
   if (opened && autosave.save()) autosave.discard(left);
 }
 
+// Those that stood open when the program ended last.
+void OpenBars(const BarMemory& memory, MainWindow& window) {
+  for (const QString& command : memory.openingCommands())
+    if (const CString name = FromQt(command); acedCommandStack()->lookupCmd(name)) window.runLines({name});
+}
+
 constexpr int kAutosaveEvery = 3 * 60 * 1000; // milliseconds
 constexpr int kAutosaveAgain = 10 * 1000;     // while a command runs
 
@@ -89,9 +97,14 @@ int Run(const DesktopJob& job, QSettings& settings, const QString& folder) {
   CommandTitles titles(job.commandTitle);
   MainWindow window(feed, titles, settings);
   DesktopFrontEnd frontEnd(feed, window);
-  DesktopDialogs dialogs(window, [&feed] { feed.wake(); });
+  DesktopDialogs dialogs(window, [&] {
+    window.followDrawing();
+    feed.wake();
+  });
   dialogs.scriptLine = job.obeyDialogLine;
   dialogs.settings = &settings;
+  if (job.obeyBarLine)
+    frontEnd.barLine = [&](const CString& line) { return job.obeyBarLine(dialogs.modeless(), line); };
   const SessionScope scope(frontEnd, dialogs);
   auto& session = EdSession::instance();
   window.show();
@@ -107,11 +120,15 @@ int Run(const DesktopJob& job, QSettings& settings, const QString& folder) {
   QObject::connect(&autosaveTimer, &QTimer::timeout,
                    [&] { autosaveTimer.start(autosave.save() ? kAutosaveEvery : kAutosaveAgain); });
   autosaveTimer.start(kAutosaveEvery);
-  if (!job.screenshot && !job.script) feed.whenIdle([&] { OfferLeft(autosave, window); });
+  if (!job.screenshot && !job.script) {
+    feed.whenIdle([&] { OfferLeft(autosave, window); });
+    OpenBars(BarMemory(settings), window);
+  }
   std::optional<Screenshot> screenshot;
   if (job.screenshot) screenshot.emplace(*job.screenshot, window, feed);
   session.run();
   window.saveState();
+  dialogs.keepBars();
   if (!screenshot) return kDone;
   if (!screenshot->isSaved()) return kUnusable;
   return status == kDone && session.refusedLines() > 0 ? kRefused : status;

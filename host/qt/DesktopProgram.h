@@ -9,6 +9,7 @@
 #include <vector>
 
 class CDialog;
+class CFormWnd;
 
 struct DesktopJob {
   std::vector<CString> plugIns;
@@ -18,6 +19,9 @@ struct DesktopJob {
   std::function<CString(const CString&)> commandTitle;
   // Obeys a line of a script in the dialog that stands open.
   std::function<void(CDialog&, const CString&)> obeyDialogLine;
+  // Obeys a line at the command prompt that is for one of the windows beside other work, the one shown last
+  // at the end. Whether it was such a line.
+  std::function<bool(const std::vector<CFormWnd*>&, const CString&)> obeyBarLine;
   // Where settings and drawings saved for the case of a crash are kept; the user's own place without it.
   std::optional<CString> stateFolder;
   // Ends after the script, with a picture of the window in this file (PNG).

@@ -64,6 +64,21 @@ void CTableWnd::SetColumnPressed(int column, bool pressed) {
   Notify(UiChange::Kind::content);
 }
 
+void CTableWnd::SetColumnKeepsWidth(int column, bool keeps) {
+  ColumnAt(column).keepsWidth = keeps;
+  Notify(UiChange::Kind::content);
+}
+
+void CTableWnd::ShowColumnTitles(bool show) {
+  m_titlesShown = show;
+  Notify(UiChange::Kind::content);
+}
+
+void CTableWnd::ShowGridLines(bool show) {
+  m_gridLines = show;
+  Notify(UiChange::Kind::look);
+}
+
 bool CTableWnd::HasColumnTitles() const {
   return std::any_of(m_columns.begin(), m_columns.end(),
                      [](const UiColumn& c) { return !c.title.IsEmpty(); });
@@ -179,9 +194,14 @@ void CTableWnd::MergeCells(int firstRow, int firstColumn, int lastRow, int lastC
   Notify(UiChange::Kind::content);
 }
 
-void CTableWnd::SetImages(std::vector<CString> files) {
-  m_images = std::move(files);
+void CTableWnd::SetImages(std::vector<CString> pictures) {
+  m_images = std::move(pictures);
   Notify(UiChange::Kind::content);
+}
+
+CString CTableWnd::ImageName(int image) const {
+  const bool named = image >= 0 && static_cast<std::size_t>(image) < m_imageNames.size();
+  return named ? m_imageNames[static_cast<std::size_t>(image)] : CString();
 }
 
 // --- selection

@@ -41,7 +41,13 @@ class CTableWnd : public CWnd {
   void SetColumnFixed(int column, bool fixed);
   void SetColumnReadOnly(int column, bool readOnly);
   void SetColumnPressed(int column, bool pressed);
+  void SetColumnKeepsWidth(int column, bool keeps);
   bool HasColumnTitles() const;
+  // Titles that are not shown above the rows still name their columns.
+  void ShowColumnTitles(bool show);
+  bool ShowsColumnTitles() const { return m_titlesShown && HasColumnTitles(); }
+  void ShowGridLines(bool show);
+  bool HasGridLines() const { return m_gridLines; }
 
   // --- rows
   int GetRowCount() const { return static_cast<int>(m_rows.size()); }
@@ -76,9 +82,13 @@ class CTableWnd : public CWnd {
   void SetStateName(const CString& name) { m_stateName = name; }
   const CString& StateName() const { return m_stateName; }
 
-  // Files of the pictures that SetCellImage counts.
+  // The pictures that SetCellImage counts: paths of files, or the texts of SVG pictures themselves.
   const std::vector<CString>& Images() const { return m_images; }
-  void SetImages(std::vector<CString> files);
+  void SetImages(std::vector<CString> pictures);
+  // What each of them means, for those who read rather than look.
+  void SetImageNames(std::vector<CString> names) { m_imageNames = std::move(names); }
+  // Empty for one without a name.
+  CString ImageName(int image) const;
 
   // --- selection: a cell in focus, and whole rows
   int GetFocusRow() const { return m_focusRow; } // -1 for none
@@ -151,6 +161,7 @@ class CTableWnd : public CWnd {
   std::vector<UiColumn> m_columns;
   std::vector<UiRow> m_rows;
   std::vector<CString> m_images;
+  std::vector<CString> m_imageNames;
   CString m_stateName;
   std::set<int> m_selected;
   int m_focusRow = -1;
@@ -159,4 +170,6 @@ class CTableWnd : public CWnd {
   bool m_editable = true;
   bool m_selectsRows = false;
   bool m_multiSelect = false;
+  bool m_titlesShown = true;
+  bool m_gridLines = true;
 };

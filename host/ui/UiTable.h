@@ -14,6 +14,7 @@ struct UiColumn {
   bool fixed = false;
   bool readOnly = false;
   bool pressed = false; // its cells are pressed and not edited, see CTableWnd::CellPressed
+  bool keepsWidth = false; // takes no part in width that is left over
 };
 
 struct UiCell {

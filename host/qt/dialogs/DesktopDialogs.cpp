@@ -14,21 +14,6 @@
 namespace desktop {
 namespace {
 
-Qt::DockWidgetArea AreaOf(unsigned side) {
-  if (side & CAcUiDockControlBar::kDockRight) return Qt::RightDockWidgetArea;
-  if (side & CAcUiDockControlBar::kDockTop) return Qt::TopDockWidgetArea;
-  if (side & CAcUiDockControlBar::kDockBottom) return Qt::BottomDockWidgetArea;
-  return Qt::LeftDockWidgetArea;
-}
-
-Qt::DockWidgetAreas AreasOf(unsigned sides) {
-  Qt::DockWidgetAreas areas = Qt::NoDockWidgetArea;
-  for (const unsigned side : {CAcUiDockControlBar::kDockLeft, CAcUiDockControlBar::kDockRight,
-                              CAcUiDockControlBar::kDockTop, CAcUiDockControlBar::kDockBottom})
-    if (sides & side) areas |= AreaOf(side);
-  return areas;
-}
-
 // What an event asked for in the drawing is over; a pick given up there gives up no more than the event.
 void EndEvent() {
   constexpr bool cancelled = false;
@@ -82,13 +67,13 @@ void DesktopDialogs::obeyScript(CDialog& dialog) {
 }
 
 void DesktopDialogs::ShowModeless(CFormWnd& form) {
+  std::erase(m_modeless, &form);
+  m_modeless.push_back(&form);
   if (auto* bar = dynamic_cast<CAcUiDockControlBar*>(&form)) {
     DockBar*& shown = m_bars[&form];
     if (!shown) {
-      shown = new DockBar(*bar, &m_window, m_afterEvent, settings);
-      shown->setAllowedAreas(AreasOf(bar->DockingSides()));
-      m_window.addDockWidget(AreaOf(bar->DockedSide()), shown);
-      if (bar->DockedSide() == 0) shown->setFloating(true);
+      shown = new DockBar(*bar, m_window, m_afterEvent, settings);
+      shown->dock();
     }
     shown->follow();
     return;
@@ -103,14 +88,21 @@ void DesktopDialogs::ShowModeless(CFormWnd& form) {
 
 // May be called from within an event of the window: it is deleted later.
 void DesktopDialogs::WindowGone(CFormWnd& form) {
+  std::erase(m_modeless, &form);
   if (const auto dialog = m_dialogs.extract(&form)) {
     dialog.mapped()->detach();
     if (dialog.mapped()->windowModality() == Qt::NonModal) dialog.mapped()->deleteLater();
   }
   if (const auto bar = m_bars.extract(&form)) {
+    if (!m_barsKept) bar.mapped()->keep(false); // its program took it away
     bar.mapped()->detach();
     bar.mapped()->deleteLater();
   }
+}
+
+void DesktopDialogs::keepBars() {
+  for (const auto& [form, bar] : m_bars) bar->keep(form->IsWindowVisible());
+  m_barsKept = true;
 }
 
 int DesktopDialogs::ShowMessageBox(const UiMessageBox& box) {

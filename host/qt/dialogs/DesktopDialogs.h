@@ -25,8 +25,13 @@ class DesktopDialogs : public UiFrontEnd {
   // Obeys a script's line in the dialog that stands open. Without it scripts wait for the user there.
   std::function<void(CDialog&, const CString&)> scriptLine;
 
-  // Where the user's widths of columns are kept; null for nowhere.
+  // Where the user's widths of columns and places of bars are kept; null for nowhere.
   QSettings* settings = nullptr;
+
+  // What stands beside other work, that shown last at the end.
+  const std::vector<CFormWnd*>& modeless() const { return m_modeless; }
+  // Before the program ends: bars that are open now are to be open when it begins again.
+  void keepBars();
 
   void RunModal(CDialog& dialog) override;
   void ShowModeless(CFormWnd& window) override;
@@ -43,6 +48,8 @@ class DesktopDialogs : public UiFrontEnd {
 
   QMainWindow& m_window;
   std::function<void()> m_afterEvent;
+  std::vector<CFormWnd*> m_modeless;
+  bool m_barsKept = false;
   std::unordered_map<CFormWnd*, DialogWindow*> m_dialogs;
   std::unordered_map<CFormWnd*, DockBar*> m_bars;
 };

@@ -1,7 +1,6 @@
 #include "host/qt/dialogs/FormWindow.h"
 
 #include "host/qt/QtText.h"
-#include "host/ui/CAcUiDockControlBar.h"
 #include "host/ui/CDialog.h"
 #include "host/ui/ObeyUser.h"
 
@@ -103,33 +102,6 @@ void DialogWindow::keyPressEvent(QKeyEvent* event) {
     return;
   }
   if (after) after();
-}
-
-DockBar::DockBar(CAcUiDockControlBar& bar, QWidget* parent, std::function<void()> afterEvent,
-                 QSettings* settings)
-    : QDockWidget(Shown(bar.GetCaption()), parent), m_bar(&bar),
-      m_holder(std::make_unique<FormHolder>(bar, std::move(afterEvent), settings)) {
-  setObjectName(ToQt(bar.ToolID().IsEmpty() ? bar.GetCaption() : bar.ToolID()));
-  setWidget(m_holder->widget());
-  m_watch = bar.Changed.Watch([this](const UiChange&) { follow(); });
-}
-
-void DockBar::detach() {
-  m_watch.Disconnect();
-  m_bar = nullptr;
-  m_holder.reset();
-  hide();
-}
-
-void DockBar::follow() {
-  if (!m_bar) return;
-  setWindowTitle(Shown(m_bar->GetCaption()));
-  if (isHidden() == m_bar->IsWindowVisible()) setVisible(m_bar->IsWindowVisible());
-}
-
-void DockBar::closeEvent(QCloseEvent* event) {
-  event->ignore();
-  if (m_bar) m_bar->UserClose();
 }
 
 } // namespace desktop

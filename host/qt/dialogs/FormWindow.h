@@ -9,6 +9,7 @@
 
 class CAcUiDockControlBar;
 class CDialog;
+class QMainWindow;
 
 namespace desktop {
 
@@ -52,15 +53,26 @@ class DialogWindow : public QDialog {
 
 class DockBar : public QDockWidget {
  public:
-  DockBar(CAcUiDockControlBar& bar, QWidget* parent, std::function<void()> afterEvent, QSettings* settings);
-  void detach();
+  // Without settings it isn't remembered where the user leaves it.
+  DockBar(CAcUiDockControlBar& bar, QMainWindow& window, std::function<void()> afterEvent,
+          QSettings* settings);
+  // To its place in the main window: where the user left it, or else where the bar wants to be.
+  void dock();
+  // Shows it, or not, as the bar tells.
   void follow();
+  // Remembers where it stands now, and whether it is open.
+  void keep(bool open) const;
+  void detach();
 
  protected:
   void closeEvent(QCloseEvent* event) override;
 
  private:
   CAcUiDockControlBar* m_bar;
+  QMainWindow& m_window;
+  QSettings* m_settings;
+  QString m_command; // that made it
+  int m_size = 0;    // that it is to have once it is shown; 0 for what it needs
   std::unique_ptr<FormHolder> m_holder;
   UiConnection m_watch;
 };

@@ -8,20 +8,32 @@
 
 namespace desktop {
 
-QPixmap ReadPicture(const CString& file, const QSize& within, double ratio) {
-  if (file.IsEmpty() || within.isEmpty()) return {};
-  const QString path = QString::fromStdString(afx::NativePath(file));
+namespace {
+
+QPixmap PaintSvg(QSvgRenderer& svg, const QSize& pixels, double ratio, const QColor& ground) {
+  if (!svg.isValid()) return {};
+  QPixmap pixmap(svg.defaultSize().scaled(pixels, Qt::KeepAspectRatio));
+  pixmap.fill(ground);
+  QPainter painter(&pixmap);
+  svg.render(&painter);
+  painter.end();
+  pixmap.setDevicePixelRatio(ratio);
+  return pixmap;
+}
+
+} // namespace
+
+QPixmap ReadPicture(const CString& picture, const QSize& within, double ratio) {
+  if (picture.IsEmpty() || within.isEmpty()) return {};
   const QSize pixels = within * ratio;
+  if (picture.View().starts_with(L"<svg")) {
+    QSvgRenderer svg(QByteArray::fromStdString(picture.ToUtf8()));
+    return PaintSvg(svg, pixels, ratio, Qt::transparent);
+  }
+  const QString path = QString::fromStdString(afx::NativePath(picture));
   if (path.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive)) {
     QSvgRenderer svg(path);
-    if (!svg.isValid()) return {};
-    QPixmap pixmap(svg.defaultSize().scaled(pixels, Qt::KeepAspectRatio));
-    pixmap.fill(Qt::white);
-    QPainter painter(&pixmap);
-    svg.render(&painter);
-    painter.end();
-    pixmap.setDevicePixelRatio(ratio);
-    return pixmap;
+    return PaintSvg(svg, pixels, ratio, Qt::white);
   }
   QImageReader reader(path);
   reader.setDecideFormatFromContent(true);

@@ -1,4 +1,4 @@
-// Pictures from files of the installation, SVG among them.
+// Pictures from files of the installation, SVG among them, and from texts that are SVG themselves.
 #pragma once
 
 #include "host/afx/CString.h"
@@ -7,8 +7,8 @@
 
 namespace desktop {
 
-// Within the size, as large as its proportions allow, for a screen of this ratio. Null where the file can't
-// be read.
-QPixmap ReadPicture(const CString& file, const QSize& within, double ratio = 1);
+// Within the size, as large as its proportions allow, for a screen of this ratio. Null where it can't be
+// read. A text that begins with "<svg" is the picture itself.
+QPixmap ReadPicture(const CString& picture, const QSize& within, double ratio = 1);
 
 } // namespace desktop

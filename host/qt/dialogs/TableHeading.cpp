@@ -38,7 +38,7 @@ int TableHeading::rows() const {
 }
 
 void TableHeading::follow() {
-  setVisible(m_table.HasColumnTitles() || rows() > 0);
+  setVisible(m_table.ShowsColumnTitles() || rows() > 0);
   Q_EMIT geometriesChanged();
   viewport()->update();
 }
@@ -50,7 +50,7 @@ QFont TableHeading::headingFont() const {
 }
 
 int TableHeading::titleHeight() const {
-  return m_table.HasColumnTitles() ? fontMetrics().height() + kPadding : 0;
+  return m_table.ShowsColumnTitles() ? fontMetrics().height() + kPadding : 0;
 }
 
 int TableHeading::rowHeight(int row) const {
@@ -67,7 +67,7 @@ int TableHeading::rowTop(int row) const {
 int TableHeading::widthFor(int column) const {
   const QFontMetrics metrics(headingFont());
   int width = 0;
-  if (m_table.HasColumnTitles()) width = metrics.horizontalAdvance(Shown(m_table.Column(column).title));
+  if (m_table.ShowsColumnTitles()) width = metrics.horizontalAdvance(Shown(m_table.Column(column).title));
   for (int row = 0; row < rows(); ++row)
     if (const UiCell& cell = m_table.Cell(row, column); cell.spanColumns == 1)
       width = std::max(width, metrics.horizontalAdvance(Shown(cell.text)));

@@ -6,6 +6,7 @@
 
 #include <QBrush>
 #include <QFont>
+#include <QGuiApplication>
 
 namespace desktop {
 namespace {
@@ -26,15 +27,16 @@ int TableModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant TableModel::picture(const UiCell& cell, int height) const {
-  CString file = cell.picture;
-  if (file.IsEmpty() && cell.image >= 0 && static_cast<std::size_t>(cell.image) < m_table.Images().size())
-    file = m_table.Images()[static_cast<std::size_t>(cell.image)];
-  if (file.IsEmpty()) return {};
-  const QString key = ToQt(file);
+  const auto& images = m_table.Images();
+  const bool hasImage = cell.image >= 0 && static_cast<std::size_t>(cell.image) < images.size();
+  if (cell.picture.IsEmpty() && !hasImage) return {};
+  const CString& file = cell.picture.IsEmpty() ? images[static_cast<std::size_t>(cell.image)] : cell.picture;
+  const QString key = cell.picture.IsEmpty() ? QString::number(cell.image) : ToQt(file);
   auto found = m_pictures.find(key);
   constexpr int width = 240;
   if (found == m_pictures.end())
-    found = m_pictures.insert(key, ReadPicture(file, {width, height > 0 ? height : 20}));
+    found = m_pictures.insert(
+        key, ReadPicture(file, {width, height > 0 ? height : 20}, qGuiApp->devicePixelRatio()));
   return found->isNull() ? QVariant() : QVariant(*found);
 }
 
@@ -74,7 +76,7 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
     return {};
   }
   case Qt::ToolTipRole:
-    return Shown(cell.text).toHtmlEscaped();
+    return Shown(cell.text.IsEmpty() ? m_table.ImageName(cell.image) : cell.text).toHtmlEscaped();
   default:
     return {};
   }
@@ -87,6 +89,10 @@ QVariant TableModel::headerData(int section, Qt::Orientation orientation, int ro
 }
 
 void TableModel::reset() {
+  if (m_images != m_table.Images()) {
+    m_images = m_table.Images();
+    m_pictures.clear();
+  }
   if (m_rows != m_table.GetRowCount() || m_columns != m_table.GetColumnCount()) {
     beginResetModel();
     m_rows = m_table.GetRowCount();

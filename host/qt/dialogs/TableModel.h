@@ -30,6 +30,7 @@ class TableModel : public QAbstractTableModel {
   CTableWnd& m_table;
   int m_rows = 0; // as Qt was told last
   int m_columns = 0;
+  std::vector<CString> m_images; // those that m_pictures knows by number
   mutable QHash<QString, QPixmap> m_pictures;
 };
 

@@ -19,6 +19,7 @@ namespace desktop {
 namespace {
 
 constexpr int kRowPadding = 10;
+constexpr int kLeastColumn = 12; // pixels
 constexpr int kMostHint = 420; // pixels of height that a table asks for
 
 // Which cell is in focus or selected the table knows; what Qt thinks of it would only mislead.
@@ -38,6 +39,7 @@ class CellDelegate : public QStyledItemDelegate {
 TableWidget::TableWidget(CTableWnd& table, QSettings* settings)
     : m_table(table), m_model(new TableModel(table, this)), m_heading(new TableHeading(table, this)),
       m_widths(table, settings) {
+  m_heading->setMinimumSectionSize(kLeastColumn);
   setHorizontalHeader(m_heading);
   setModel(m_model);
   setItemDelegate(new CellDelegate(this));
@@ -95,18 +97,25 @@ void TableWidget::widenColumns() {
   for (int column = 0; column < given.size(); ++column)
     if (given[column] > 0) setColumnWidth(column, given[column]);
   if (!given.isEmpty()) return;
+  const auto widens = [this](int column) {
+    return widthOf(column) > 0 && !m_table.Column(column).keepsWidth;
+  };
   int wanted = 0;
+  int widening = 0; // how much of it takes part in what is left over
   int last = -1;
   for (int column = 0; column < columns; ++column) {
     wanted += widthOf(column);
-    if (widthOf(column) > 0) last = column;
+    if (widens(column)) widening += widthOf(column);
+    if (widens(column)) last = column;
   }
   int left = std::max(viewport()->width() - wanted, 0);
   const int spare = left;
-  for (int column = 0; column <= last; ++column) {
+  for (int column = 0; column < columns; ++column) {
     const int width = widthOf(column);
     if (width == 0) continue;
-    const int more = column == last ? left : static_cast<int>(static_cast<long>(spare) * width / wanted);
+    int more = 0;
+    if (widens(column))
+      more = column == last ? left : static_cast<int>(static_cast<long>(spare) * width / widening);
     setColumnWidth(column, width + more);
     left -= more;
   }
@@ -131,6 +140,7 @@ void TableWidget::follow(const UiChange& change) {
   const QScopeGuard over([this, outer] { m_layingOut = outer; });
   switch (change.kind) {
   case UiChange::Kind::look:
+    setShowGrid(m_table.HasGridLines());
     viewport()->update();
     break;
   case UiChange::Kind::content: {
@@ -196,6 +206,10 @@ void TableWidget::mouseReleaseEvent(QMouseEvent* event) {
 void TableWidget::mouseDoubleClickEvent(QMouseEvent* event) {
   const QPoint cell = cellAt(event->position().toPoint());
   if (cell.y() < 0 || event->button() != Qt::LeftButton || m_table.Row(cell.y()).fixed) return;
+  if (m_table.CanPress(cell.y(), cell.x())) { // two clicks in quick succession
+    m_pressed = cell;
+    return;
+  }
   obey([this, cell] {
     UiOutcome outcome = m_table.UserDoubleClick(cell.y(), cell.x());
     if (!outcome || m_table.CurrentEdit() || !m_table.CanEdit(cell.y(), cell.x())) return outcome;

@@ -128,6 +128,10 @@ void MainWindow::show(const CString& text, Tone tone) {
 
 void MainWindow::promptOpened(const CString& prompt) {
   m_panel->promptOpened(prompt);
+  followDrawing();
+}
+
+void MainWindow::followDrawing() {
   m_canvas->refresh();
   refreshTabs();
   refreshStatus();

@@ -36,6 +36,8 @@ class MainWindow : public QMainWindow, public DesktopView, private AcApDocManage
   // Opens a file without asking for its name.
   void openFile(const CString& path);
   void setDarkCanvas(bool dark);
+  // Something outside of commands may have changed the drawing.
+  void followDrawing();
   // After all commands are registered.
   void buildMenus();
   void saveState();

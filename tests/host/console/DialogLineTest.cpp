@@ -269,4 +269,23 @@ TEST_F(DialogLine, RefusesNonsense) {
   EXPECT_EQ(dialog.m_number.GetText(), L"");
 }
 
+TEST_F(DialogLine, NamesColumnsAndImagesOfTablesThatShowNoTitles) {
+  dialog.m_edits.SetColumnTitle(0, L"图层");
+  dialog.m_edits.ShowColumnTitles(false);
+  dialog.m_edits.SetImages({L"on.svg", L"off.svg"});
+  dialog.m_edits.SetImageNames({L"开"});
+  const int state = dialog.m_edits.AddColumn(L"开关", 20);
+  dialog.m_edits.DeleteAllRows();
+  for (const int image : {0, 1}) dialog.m_edits.SetCellImage(dialog.m_edits.AddRow({L"甲"}), state, image);
+  const std::string shown = Show(L"行表");
+  EXPECT_NE(std::string::npos, shown.find("图层 | ")) << shown;
+  EXPECT_NE(std::string::npos, shown.find(" | 开\n")) << shown;
+  EXPECT_NE(std::string::npos, shown.find(" | 图标1\n"))
+      << "one without a name goes by its number: " << shown;
+  EXPECT_EQ("", Obey(L"select 行表 2 开关"));
+  dialog.m_edits.SetCellColours(1, dialog.m_edits.AddColumn(L"颜色", 20), RGB(255, 0, 18));
+  EXPECT_NE(std::string::npos, Show(L"行表").find(" | #FF0012\n"));
+  EXPECT_EQ(dialog.m_edits.GetFocusColumn(), state);
+}
+
 } // namespace

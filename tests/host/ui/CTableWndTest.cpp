@@ -200,4 +200,31 @@ TEST_F(Tables, OfListsFindTheirData) {
   EXPECT_EQ(list.SelectedData(), &two);
 }
 
+TEST_F(Tables, KeepTitlesThatAreNotShown) {
+  EXPECT_FALSE(grid.ShowsColumnTitles()) << "it has none";
+  grid.SetColumnTitle(0, L"图层");
+  EXPECT_TRUE(grid.ShowsColumnTitles());
+  grid.ShowColumnTitles(false);
+  EXPECT_FALSE(grid.ShowsColumnTitles());
+  EXPECT_TRUE(grid.HasColumnTitles());
+}
+
+TEST_F(Tables, TellOfChangesOfTheirLook) {
+  Told told(grid);
+  grid.ShowGridLines(false);
+  EXPECT_FALSE(grid.HasGridLines());
+  grid.ShowColumnTitles(false);
+  grid.SetColumnKeepsWidth(1, true);
+  EXPECT_TRUE(grid.Column(1).keepsWidth);
+  EXPECT_EQ(told.count(), 3u);
+}
+
+TEST_F(Tables, NameTheirImages) {
+  grid.SetImages({L"a.png", L"<svg/>"});
+  grid.SetImageNames({L"开"});
+  EXPECT_EQ(grid.ImageName(0), L"开");
+  EXPECT_EQ(grid.ImageName(1), L"");
+  EXPECT_EQ(grid.ImageName(-1), L"");
+}
+
 } // namespace
