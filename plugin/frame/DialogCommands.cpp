@@ -4,6 +4,7 @@
 #include "plugin/fancoil/dialogs/CKTFCUManagerDlg.h"
 #include "plugin/frame/CZPSystemSettingsDlg.h"
 #include "plugin/graph/ResourceBracket.h"
+#include "plugin/layers/bar/LayerControlBar.h"
 #include "plugin/layers/dialogs/CCADGroupLayerDlg.h"
 #include "plugin/layers/dialogs/CZPLayerManagerDlg.h"
 #include "plugin/pipes/dialogs/ShowPipeDialogs.h"
@@ -34,7 +35,15 @@ void dialogs::LayerManager() {
 
 void dialogs::LayerGroups() {
   const ResourceBracket bracket;
-  CCADGroupLayerDlg(acedGetAcadDwgView()).DoModal();
+  CCADGroupLayerDlg dialog(acedGetAcadDwgView());
+  dialog.DoModal();
+  layers::DestroyControlBar();
+}
+
+void dialogs::LayerControl() {
+  void* instance = module::InstanceHandle();
+  const ResourceBracket bracket(instance ? instance : module::ResourceHandle());
+  layers::ShowControlBar();
 }
 
 void dialogs::Radiators() {

@@ -9,6 +9,7 @@ void DuctMaterials();       // KOR_FGGJGLQ
 void SystemSettings();      // KOR_XTSZ
 void LayerManager();        // KOR_TCGLQ
 void LayerGroups();         // KOR_CADTCFZ
+void LayerControl();        // KOR_CADTCKZ, a bar that stays open
 void Radiators();           // KOR_SRQ
 void RadiatorCalculation(); // KOR_SRQJS
 void FanCoils();            // KOR_FJPGGLQ

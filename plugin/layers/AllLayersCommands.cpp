@@ -1,7 +1,7 @@
 // The commands that bring every layer of the drawing back to one state.
-#include "host/ed/AcApDocManager.h"
 #include "plugin/layers/LayerService.h"
 #include "plugin/layers/LayerTable.h"
+#include "plugin/layers/Regenerate.h"
 
 namespace {
 
@@ -10,11 +10,6 @@ template <typename Change> bool ChangeAllLayers(Change change) {
   if (!table) return false;
   layers::ForEachLayer(*table.object(), AcDb::kForWrite, change);
   return true;
-}
-
-// The picture is drawn anew once the command has returned.
-void Regenerate() {
-  acDocManagerPtr()->sendStringToExecute(acDocManagerPtr()->curDocument(), L"regen\n", false, false, true);
 }
 
 } // namespace
@@ -28,7 +23,7 @@ void ZP::UnLockedAllLayers() {
 }
 
 void ZP::UnFrozenAllLayers() {
-  if (ChangeAllLayers([](AcDbLayerTableRecord& layer) { layer.setIsFrozen(false); })) Regenerate();
+  if (ChangeAllLayers([](AcDbLayerTableRecord& layer) { layer.setIsFrozen(false); })) layers::Regenerate();
 }
 
 // Despite its name it restores no remembered state: every layer is cleared.
@@ -39,5 +34,5 @@ void ZP::ResumeLayers() {
     layer.setIsLocked(false);
     layer.setVPDFLT(false);
   });
-  if (changed) Regenerate();
+  if (changed) layers::Regenerate();
 }

@@ -50,11 +50,13 @@ class ScriptedEditor : public EdFrontEnd {
     return {box.defaultButton, false};
   }
   void lineRefused(const EdRefusal& refusal) override { refused.push_back(refusal.reason); }
+  CWnd* mainWindow() override { return frame; }
 
   std::deque<CString> lines; // not read yet
   std::vector<CString> prompts;
   std::vector<CString> refused;
   CString printed;
+  CWnd* frame = nullptr; // not owned
 };
 
 // "#HANDLE", as a user names an entity.

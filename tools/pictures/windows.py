@@ -34,6 +34,7 @@ UNIT = ["PLINE", "0,0", "900,0", "900,480", "0,480", "c", "PLINE", "60,300", "84
 BLOCK = ["click 图面选取", "all", "", "0,0", "450,600"]
 CHANGED = UNIT + ["KOR_FJPGGLQ", "select 风机盘管列表 FP-68", "click 修改", "set 图块名 = FJPG1"] + BLOCK + ["click 确认修改"]
 NEW = UNIT + ["KOR_FJPGGLQ", "click 添加", "set 风机数量 = 2", "set 功率(W) = 58"] + BLOCK + ["set 设备型号 = FP-68H"]
+HEATING = ["暖通-采暖-供水-干管", "暖通-采暖-回水-干管"]
 
 # Name: what is typed, and the drawing that the program is started with. A picture shows what stands open at the end.
 WINDOWS = {
@@ -47,6 +48,10 @@ WINDOWS = {
     "layer-manager": (["KOR_TCGLQ", "select 图层分组 全部图层/空调水路/管线", "select 图层列表 2"], None),
     "layer-batch": (["KOR_TCGLQ", "select 图层列表 1,2,3", "menu 图层列表 2 批量修改", "check 图层名称 off"], None),
     "layer-scheme-add": (["KOR_TCGLQ", "click 添加", "set 方案名称 = 二期工程"], None),
+    "layer-groups": (["KOR_CADTCFZ", *[f"check 当前图纸所有图层 {layer} on" for layer in HEATING], "click 新建",
+                      "edit 分组 1 分组 = 采暖管线", "select 分组 采暖管线"], PLAN),
+    "layer-control-bar": (["KOR_CADTCKZ", "ZOOM", "E", "bar click 图层 建筑-房间名称 开关",
+                           "bar click 图层 建筑-窗 锁定", "bar click 图层 暖通-公用-文字 冻结"], PLAN),
     "velocity-limits": (["KOR_LSGLQ", "select 流速 32"], None),
     "coefficient-manager": (["WB_JZXS", "select 管道配件 弯头"], None),
     "coefficient-manager-tees": (["WB_JZXS", "select 局阻系数 三通四通"], None),

@@ -9,8 +9,10 @@
 #include "host/afx/MessageLog.h"
 #include "host/ed/AcEdCommandStack.h"
 #include "host/ed/AcRxDynamicLinker.h"
+#include "host/ui/CFrameWnd.h"
 #include "tests/support/ScriptedEditor.h"
 #include "tests/support/TempInstall.h"
+#include "tests/support/UiFrontEndScript.h"
 
 namespace {
 
@@ -94,9 +96,10 @@ TEST(PlugInFile, HidesEverythingElse) {
   for (const std::string& name : VisibleNames()) {
     EXPECT_EQ(name.find("CZPGroupLayer::"), std::string::npos) << name;
     EXPECT_EQ(name.find("for CZPGroupLayer"), std::string::npos) << name;
-    for (const char* internal : {"layers::", "pipes::", "notice::", "dialogs::", "CZPPipeManagerDlg",
-                                 "module::", "xdata::", "idp::", "simdjson", "CommandTable",
-                                 "VkDefineCommand", "DocumentData", "AsdkDataManager"})
+    for (const char* internal :
+         {"layers::", "pipes::", "notice::", "dialogs::", "CZPPipeManagerDlg",
+          "module::", "xdata::", "idp::", "simdjson", "CommandTable", "VkDefineCommand", "DocumentData",
+          "AsdkDataManager", "CCADLayerControlBar", "CCADGroupLayer", "CCADManagerLayer"})
       EXPECT_NE(name.rfind(internal, 0), 0u) << name;
     EXPECT_NE(name.rfind("std::", 0), 0u) << name;
   }
@@ -131,6 +134,30 @@ TEST_F(LoadedPlugIn, LeavesNothingInMemoryWhenItIsUnloaded) {
   ASSERT_TRUE(acrxDynamicLinkerPtr()->unloadModule(kFile));
   EXPECT_FALSE(IsMapped());
   acDocManagerPtr()->closeDocument(&acDocManagerPtr()->newDocument()); // its observer must be gone too
+}
+
+TEST_F(LoadedPlugIn, TakesItsBarAndWhatTheBarHasLeftWithIt) {
+  const TempInstall install; // the dialog saves as it goes
+  UiFrontEndScript windows;
+  CFrameWnd frame;
+  editor.frame = &frame;
+  ASSERT_TRUE(acrxDynamicLinkerPtr()->loadModule(kFile));
+  editor.Run(L"KOR_CADTCKZ");
+  ASSERT_EQ(windows.shown.size(), 1u);
+  AcApDocument* other = &acDocManagerPtr()->newDocument();
+  editor.Run(L"KOR_CADTCFZ");
+  EXPECT_EQ(windows.gone.front(), windows.shown[0]) << "the groups may be others now";
+  editor.Run(L"KOR_CADTCKZ");
+  ASSERT_EQ(windows.shown.size(), 2u);
+  windows.gone.clear();
+  ASSERT_TRUE(acrxDynamicLinkerPtr()->unloadModule(kFile));
+  EXPECT_FALSE(IsMapped());
+  EXPECT_FALSE(windows.gone.empty());
+  // Nothing of the plug-in is told of layers any more.
+  WorkingDrawing::AddLayerTo(*other->database(), L"甲");
+  EXPECT_EQ(acDocManagerPtr()->closeDocument(other), Acad::eOk);
+  WorkingDrawing::AddLayerTo(editor.Database(), L"乙");
+  editor.frame = nullptr;
 }
 
 TEST_F(LoadedPlugIn, CanBeLoadedAgain) {

@@ -1,4 +1,5 @@
 #include "tests/plugin/layers/DrawingFixture.h"
+#include "tests/support/RefusedLocks.h"
 
 namespace {
 
@@ -98,18 +99,8 @@ TEST_F(AllLayerNames, LeaveOutErasedLayers) {
   EXPECT_EQ(names.GetSize(), 4);
 }
 
-// Refuses every lock.
-class Refusing : public AcApDocManagerReactor {
- public:
-  Refusing() { acDocManagerPtr()->addReactor(this); }
-  ~Refusing() override { acDocManagerPtr()->removeReactor(this); }
-  void documentLockModeChanged(AcApDocument*, AcAp::DocLockMode, AcAp::DocLockMode, const wchar_t*) override {
-    veto();
-  }
-};
-
 TEST_F(AllLayerNames, AreNotReadAndTheListStaysWhenTheLockIsRefused) {
-  const Refusing refusing;
+  const RefusedLocks refused;
   CStringArray names;
   names.Add(L"before");
   EXPECT_FALSE(ZP::GetCurDwgAllLayer(names));
@@ -133,7 +124,7 @@ TEST_F(AllLayerNames, DoNotGoByTheLockWhenFreezing) {
   done = false;
   // The command holds its lock already; only the one that freezing asks for is refused.
   Register(L"FREEZE", [] {
-    const Refusing refusing;
+    const RefusedLocks refused;
     ZP::FrozenSelectedLayer();
     done = true;
   });

@@ -1,7 +1,7 @@
 // The records of the open documents.
 #pragma once
 
-#include "plugin/frame/AsdkDataManager.h"
-#include "plugin/frame/CDocData.h"
+#include "plugin/graph/AsdkDataManager.h"
+#include "plugin/graph/CDocData.h"
 
 AsdkDataManager<CDocData>& DocumentData();

@@ -1,4 +1,4 @@
-#include "plugin/frame/DocumentData.h"
+#include "plugin/graph/DocumentData.h"
 
 namespace {
 // With the module, not with its first use: a document that closes before must not be missed.

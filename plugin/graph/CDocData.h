@@ -4,6 +4,6 @@
 class CCADLayerDatabaseReactor;
 
 struct CDocData {
-  // Watches the document's database for the layer control bar, which owns it. Null where nobody watches.
+  // Watches the document's database for the layer control bar. Not owned; null where nobody watches.
   CCADLayerDatabaseReactor* m_pDatabaseReactor = nullptr;
 };

@@ -1,4 +1,4 @@
-#include "plugin/frame/DocumentData.h"
+#include "plugin/graph/DocumentData.h"
 
 #include "tests/support/ScriptedEditor.h"
 
