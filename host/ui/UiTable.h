@@ -13,7 +13,7 @@ struct UiColumn {
   int width = 0; // pixels; a column of width 0 is hidden
   bool fixed = false;
   bool readOnly = false;
-  bool pressed = false; // its cells are pressed and not edited, see CTableWnd::CellPressed
+  bool pressed = false;    // its cells are pressed and not edited, see CTableWnd::CellPressed
   bool keepsWidth = false; // takes no part in width that is left over
 };
 

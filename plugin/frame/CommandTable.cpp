@@ -1,5 +1,5 @@
-// A handler that shows a dialog does so inside a ResourceBracket, unless the function that it calls has one of
-// its own.
+// A handler that shows a dialog does so inside a ResourceBracket, unless the function that it calls has one
+// of its own.
 #include "plugin/frame/CommandTable.h"
 
 #include "host/ed/AcEdCommand.h"
