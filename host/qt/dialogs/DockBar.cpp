@@ -89,8 +89,9 @@ void DockBar::follow() {
 void DockBar::keep(bool open) const {
   if (!m_settings) return;
   const auto side = m_window.dockWidgetArea(const_cast<DockBar*>(this));
-  BarMemory(*m_settings).keep(objectName(),
-                    {side, IsBeside(side) ? width() : height(), isFloating(), geometry(), open, m_command});
+  BarMemory(*m_settings)
+      .keep(objectName(),
+            {side, IsBeside(side) ? width() : height(), isFloating(), geometry(), open, m_command});
 }
 
 void DockBar::detach() {

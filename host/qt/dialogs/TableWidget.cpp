@@ -20,7 +20,7 @@ namespace {
 
 constexpr int kRowPadding = 10;
 constexpr int kLeastColumn = 12; // pixels
-constexpr int kMostHint = 420; // pixels of height that a table asks for
+constexpr int kMostHint = 420;   // pixels of height that a table asks for
 
 // Which cell is in focus or selected the table knows; what Qt thinks of it would only mislead.
 class CellDelegate : public QStyledItemDelegate {

@@ -2,6 +2,7 @@
 #include "host/qt/dialogs/BarMemory.h"
 
 #include "host/ui/CAcUiDockControlBar.h"
+#include "host/ui/CButton.h"
 #include "tests/host/qt/Desktop.h"
 
 #include <QDockWidget>
@@ -30,8 +31,7 @@ class RememberedBars : public Desktop {
 
   // A run of the program: the same settings, and everything else anew.
   void begin() {
-    dialogs = std::make_unique<desktop::DesktopDialogs>(
-        *window, [] {});
+    dialogs = std::make_unique<desktop::DesktopDialogs>(*window, [] {});
     dialogs->settings = &settings;
     UiFrontEnd::Set(dialogs.get());
   }
@@ -99,10 +99,10 @@ TEST_F(RememberedBars, ComeBackToWhereTheyFloated) {
 TEST_F(RememberedBars, DoNotComeBackToAScreenThatIsGone) {
   open();
   memory.keep(QStringLiteral("{bar/1}"),
-                 {Qt::RightDockWidgetArea, 200, true, QRect(90000, 90000, 200, 200), false, {}});
+              {Qt::RightDockWidgetArea, 200, true, QRect(90000, 90000, 200, 200), false, {}});
   drop();
   memory.keep(QStringLiteral("{bar/1}"),
-                 {Qt::RightDockWidgetArea, 200, true, QRect(90000, 90000, 200, 200), false, {}});
+              {Qt::RightDockWidgetArea, 200, true, QRect(90000, 90000, 200, 200), false, {}});
   open();
   EXPECT_TRUE(dock().isFloating());
   EXPECT_LT(dock().x(), 10000);
