@@ -19,8 +19,7 @@ namespace desktop {
 namespace {
 
 constexpr int kRowPadding = 10;
-constexpr int kLeastColumn = 12; // pixels
-constexpr int kMostHint = 420;   // pixels of height that a table asks for
+constexpr int kMostHint = 420; // pixels of height that a table asks for
 
 // Which cell is in focus or selected the table knows; what Qt thinks of it would only mislead.
 class CellDelegate : public QStyledItemDelegate {
@@ -39,7 +38,6 @@ class CellDelegate : public QStyledItemDelegate {
 TableWidget::TableWidget(CTableWnd& table, QSettings* settings)
     : m_table(table), m_model(new TableModel(table, this)), m_heading(new TableHeading(table, this)),
       m_widths(table, settings) {
-  m_heading->setMinimumSectionSize(kLeastColumn);
   setHorizontalHeader(m_heading);
   setModel(m_model);
   setItemDelegate(new CellDelegate(this));
