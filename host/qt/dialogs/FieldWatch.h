@@ -10,29 +10,34 @@
 
 namespace desktop {
 
-// Tells when the user goes on to another widget, by key or mouse.
-class LeaveWatch : public QObject {
+// Tells when the user goes to a widget, or from it to another one of the window, by key or mouse.
+class FocusWatch : public QObject {
  public:
-  LeaveWatch(QWidget& widget, std::function<void()> left) : QObject(&widget), m_left(std::move(left)) {
+  FocusWatch(QWidget& widget, QEvent::Type when, std::function<void()> moved)
+      : QObject(&widget), m_when(when), m_moved(std::move(moved)) {
     widget.installEventFilter(this);
   }
 
  protected:
   bool eventFilter(QObject* object, QEvent* event) override {
-    if (event->type() == QEvent::FocusOut) {
+    if (event->type() == m_when) {
       const auto reason = static_cast<QFocusEvent*>(event)->reason();
       if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::MouseFocusReason)
-        m_left();
+        m_moved();
     }
     return QObject::eventFilter(object, event);
   }
 
  private:
-  std::function<void()> m_left;
+  QEvent::Type m_when;
+  std::function<void()> m_moved;
 };
 
+inline void OnEnter(QWidget& widget, std::function<void()> entered) {
+  new FocusWatch(widget, QEvent::FocusIn, std::move(entered)); // the widget's
+}
 inline void OnLeave(QWidget& widget, std::function<void()> left) {
-  new LeaveWatch(widget, std::move(left)); // the widget's
+  new FocusWatch(widget, QEvent::FocusOut, std::move(left)); // the widget's
 }
 
 // Enter finishes an edit, Escape gives it up; the dialog gets neither, except for an Escape that had nothing

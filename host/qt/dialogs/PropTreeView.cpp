@@ -66,6 +66,11 @@ class PropTreeView : public ControlView {
   };
   static Form FormOf(const CPropTreeItem& item) { return {item.kind, item.choices}; }
 
+  // What is told about an item shows as soon as the user is in its field.
+  void select(int item) {
+    if (item < m_tree.GetItemCount() && m_tree.GetCurSel() != item)
+      obey([this, item] { return m_tree.UserSelect(item); });
+  }
   void choose(int item, const CString& text) {
     obey([this, item, text] { return m_tree.UserSetText(item, text); });
   }
@@ -142,6 +147,7 @@ class PropTreeView : public ControlView {
         auto* shown = new QTreeWidgetItem(top);
         shown->setData(0, Qt::UserRole, number);
         QWidget* field = makeField(number);
+        OnEnter(*field, [this, number] { select(number); });
         field->setMinimumHeight(kRowHeight);
         m_list->setItemWidget(shown, 1, field);
         m_forms.push_back(FormOf(item));
@@ -179,6 +185,7 @@ class PropTreeView : public ControlView {
     if (auto* combo = dynamic_cast<QComboBox*>(field)) {
       combo->setEnabled(!item.readOnly);
       combo->setCurrentIndex(item.ChoiceIndex());
+      combo->setPlaceholderText(Shown(item.text)); // seen where the text is none of the choices
       if (combo->isEditable()) combo->setEditText(ToQt(item.text));
     } else if (auto* line = dynamic_cast<QLineEdit*>(field)) {
       line->setReadOnly(item.readOnly);

@@ -103,8 +103,11 @@ class DialogClicks : public Desktop {
   }
   static QWidget& editor() { return find<QWidget>("cellEditor"); }
   static void typeInto(QWidget& widget, const char* text) { TypeText(&widget, QString::fromUtf8(text)); }
-  // Types over what stands in the field.
+  // Types over what stands in the field. A field is neither entered nor left while its window isn't active,
+  // and without a window manager nobody makes it so again behind a window that was above it.
   static void retype(QLineEdit& line, const char* text) {
+    line.window()->activateWindow();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return line.isActiveWindow(); }));
     line.setFocus();
     line.selectAll();
     QTest::keyClick(&line, Qt::Key_Delete);

@@ -1,7 +1,9 @@
 // A user without a plan at the widgets themselves: clicks anywhere, presses keys and types, in each dialog of
 // the plug-in and in whatever that opens. Nothing may break, and what the file holds afterwards is what the
 // catalogue holds.
+#include "plugin/base/CIDPEx.h"
 #include "plugin/base/DefaultValues.h"
+#include "plugin/base/Folders.h"
 #include "plugin/base/NumberText.h"
 #include "plugin/fancoil/dialogs/CKTFCUManagerDlg.h"
 #include "plugin/frame/CZPSystemSettingsDlg.h"
@@ -10,6 +12,7 @@
 #include "plugin/pipes/CZPPipeMaterialManager.h"
 #include "plugin/radiators/CZPRadiatorManager.h"
 #include "plugin/radiators/dialogs/CZPRadiatorCalculateDlg.h"
+#include "plugin/radiators/dialogs/ShowRadiatorDialogs.h"
 #include "plugin/resistance/CZPLocalResistanceSettings.h"
 #include "plugin/resistance/dialogs/ShowResistanceDialogs.h"
 #include "tests/host/qt/FanCoilCatalogue.h"
@@ -110,6 +113,36 @@ TEST_P(RandomClicks, KeepVelocityLimitsUsable) {
   play([] { return ZP::ShowFVMngDlg(nullptr); });
   for (const CZPPipeLimit* limit : table.m_arrLimits) EXPECT_FALSE(limit->GetName().IsEmpty());
   pipes::DestroyElements(table.m_arrLimits);
+}
+
+TEST_P(RandomClicks, KeepRadiatorsAsTheyAreShown) {
+  auto& catalogue = *CZPRadiatorManager::GetInstance();
+  const auto empty = [&] {
+    while (!catalogue.m_arrTypes.IsEmpty()) catalogue.Remove(catalogue.m_arrTypes[0]);
+  };
+  empty();
+  for (const wchar_t* name : {L"铸铁", L"钢制"}) {
+    catalogue.Add(name);
+    auto* radiator = new CZPRadiator;
+    radiator->SetName(CString(name) + L"一");
+    EXPECT_TRUE(catalogue.GetRadiatorType(name)->Add(radiator));
+  }
+  CZPRadiator* inUse = catalogue.GetInitialRadiator();
+  play([&] { return ZP::ShowRadMngDlg(inUse, nullptr); });
+  ASSERT_NE(inUse, nullptr);
+  EXPECT_EQ(catalogue.GetRadiator(inUse->GetName(), inUse->GetParent()->GetName()), inUse);
+  CIDPEx file;
+  ASSERT_TRUE(file.Open(ZP::GetSystemPath() + L"HeatingData\\Srq.idp"));
+  ASSERT_EQ(file.SubKeyNames.GetSize(), catalogue.m_arrTypes.GetSize());
+  for (int i = 0; i < catalogue.m_arrTypes.GetSize(); ++i) {
+    const CZPRadiatorType& type = *catalogue.m_arrTypes[i];
+    CIDPEx* saved = file.GetSubItem(ZP::itoa(i))->GetSubItem(type.GetName());
+    ASSERT_NE(saved, nullptr);
+    ASSERT_EQ(saved->SubKeyNames.GetSize(), type.m_arrRadiators.GetSize());
+    for (const CZPRadiator* radiator : type.m_arrRadiators)
+      EXPECT_NE(saved->GetSubItem(radiator->GetName()), nullptr);
+  }
+  empty();
 }
 
 TEST_P(RandomClicks, KeepSettingsThatCanBe) {

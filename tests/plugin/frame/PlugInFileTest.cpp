@@ -45,6 +45,8 @@ TEST(PlugInFile, ShowsWhatSiblingsCall) {
            "ZP::ShowDuctMaterialDlg(CWnd*)",
            "ZP::ShowDuctMaterialDlg(CZPDuctMaterial*&, CWnd*)",
            "ZP::ShowFVMngDlg(CWnd*)",
+           "ZP::ShowRadMngDlg(CWnd*)",
+           "ZP::ShowRadMngDlg(CZPRadiator*&, CWnd*)",
            "ZP::ShowLRMDlg(CWnd*)",
            "ZP::ShowLRSDlg(CZPLocalResistanceSettings&, CWnd*)",
            "CZPLocalResistanceMng::GetInstance()",

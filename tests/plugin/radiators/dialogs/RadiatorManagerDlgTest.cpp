@@ -1,5 +1,6 @@
 #include "plugin/radiators/dialogs/CZPRadiatorManagerDlg.h"
 
+#include "host/ed/AcApDocManager.h"
 #include "plugin/radiators/dialogs/CZPAddRadiatorDlg.h"
 #include "plugin/radiators/dialogs/ShowRadiatorDialogs.h"
 #include "tests/plugin/radiators/RadiatorText.h"
@@ -501,6 +502,17 @@ TEST_F(ChooseRadiator, GetsTheObjectThatAMovedRadiatorHasBecomeHoweverTheManager
                          }),
             1);
   EXPECT_EQ(radiator, panel);
+}
+
+TEST_F(ChooseRadiator, HasTheResourcesOfThePlugInMeanwhile) {
+  std::vector<std::size_t> depths;
+  const auto look = [&](CDialog&) { depths.push_back(acDocManagerPtr()->resourceDepth()); };
+  frontEnd.runs = {look, look};
+  CZPRadiator* radiator = column;
+  ZP::ShowRadMngDlg(radiator, nullptr);
+  ZP::ShowRadMngDlg(nullptr);
+  EXPECT_EQ(depths, (std::vector<std::size_t>{1, 1}));
+  EXPECT_EQ(acDocManagerPtr()->resourceDepth(), 0u);
 }
 
 TEST_F(ChooseRadiator, OfWhoeverOnlyManagesIsTheDialogsResult) {
