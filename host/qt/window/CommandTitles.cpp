@@ -1,45 +1,14 @@
 #include "host/qt/window/CommandTitles.h"
 
-#include "host/afx/AtomicFile.h"
-
 namespace desktop {
-namespace {
-
-constexpr std::uint64_t kLargestMenu = 1 << 20;
-
-} // namespace
-
-std::vector<MenuGroup> ParseMenuFile(std::string_view bytes) {
-  std::vector<MenuGroup> groups;
-  const CString text = CString::FromUtf8(bytes);
-  int at = 0;
-  for (CString line = text.Tokenize(L"\r\n", at); at != -1; line = text.Tokenize(L"\r\n", at)) {
-    line.Trim();
-    if (line.IsEmpty() || line[0] == L'#') continue;
-    if (line[0] == L'[' && line.View().ends_with(L']')) {
-      groups.push_back({line.Mid(1, line.GetLength() - 2), {}});
-      continue;
-    }
-    const int blank = line.FindOneOf(L" \t");
-    if (blank > 0 && !groups.empty())
-      groups.back().entries.push_back({line.Left(blank), line.Mid(blank).Trim()});
-  }
-  return groups;
-}
 
 void CommandTitles::addPlugIn(const CString& plugInFile) {
-  const int dot = plugInFile.ReverseFind(L'.');
-  std::string bytes;
-  if (!afx::ReadWholeFile((dot > 0 ? plugInFile.Left(dot) : plugInFile) + L".menu", bytes, kLargestMenu).ok)
-    return;
-  for (auto& group : ParseMenuFile(bytes)) m_menus.push_back(std::move(group));
+  for (auto& group : ed::ReadPlugInMenu(plugInFile)) m_menus.push_back(std::move(group));
 }
 
 CString CommandTitles::title(const CString& command) const {
-  for (const auto& menu : m_menus)
-    for (const auto& entry : menu.entries)
-      if (entry.command.CompareNoCase(command) == 0) return entry.title;
-  return m_hostTitle ? m_hostTitle(command) : CString();
+  const CString found = ed::TitleIn(m_menus, command);
+  return found.IsEmpty() && m_hostTitle ? m_hostTitle(command) : found;
 }
 
 } // namespace desktop

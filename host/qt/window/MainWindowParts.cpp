@@ -52,9 +52,9 @@ void MainWindow::buildMenus() {
     if (!open || CString(open) != row.menu) {
       endMenu();
       if (CString(row.menu).View().starts_with(L"帮助"))
-        for (const MenuGroup& group : m_titles.plugInMenus()) {
+        for (const ed::MenuGroup& group : m_titles.plugInMenus()) {
           menu = menuBar()->addMenu(Plain(group.title));
-          for (const MenuEntry& entry : group.entries)
+          for (const ed::MenuEntry& entry : group.entries)
             connect(add(entry.title, entry.command), &QAction::triggered, this,
                     [this, name = entry.command] { runLines({name}); });
         }

@@ -3,7 +3,9 @@
 #include <variant>
 
 #include "host/afx/Numbers.h"
+#include "plugin/base/ExactText.h"
 #include "plugin/base/NumberText.h"
+#include "plugin/graph/PropertyRows.h"
 
 namespace {
 
@@ -56,11 +58,8 @@ bool IsName(const CString& label) {
   return label == kMakerLabel || label == kBlockLabel;
 }
 
-// The shortest text that reads back as the same number: the list is read as a whole, also where the user has
-// changed nothing.
 CString TextOf(double value) {
-  CString text = CString::FromUtf8(afx::ShortestDouble(value));
-  return text.View().ends_with(L".0") ? text.Left(text.GetLength() - 2) : text;
+  return ZP::ExactText(value);
 }
 CString TextOf(int value) {
   return ZP::itoa(value);
@@ -95,15 +94,8 @@ template <class Visit> void ForEachItem(const CPropTree& list, Visit visit) {
 void CKTFCUManagerPropTree::Fill(bool readOnly) {
   const UiQuietly quietly(*this);
   DeleteAll();
-  for (const Parameter& parameter : Parameters()) {
-    if (parameter.group) AddGroup(parameter.group);
-    CPropTreeItem item;
-    item.label = parameter.label;
-    item.kind = parameter.kind;
-    item.choices = parameter.choices;
-    item.readOnly = readOnly || IsName(item.label);
-    AddItem(std::move(item));
-  }
+  AddPropertyRows(*this, Parameters());
+  for (int item = 0; item < GetItemCount(); ++item) SetReadOnly(item, readOnly || IsName(Item(item).label));
 }
 
 void CKTFCUManagerPropTree::EnableNames(bool enable) {

@@ -3,6 +3,7 @@
 #include <variant>
 
 #include "plugin/base/NumberText.h"
+#include "plugin/graph/PropertyRows.h"
 
 namespace {
 
@@ -46,14 +47,7 @@ CString TextOf(const CZPPipeMaterial& material, const Property& property) {
 } // namespace
 
 void pipes::BuildPipeProperties(CPropTree& list) {
-  for (const Property& property : Properties()) {
-    if (property.group) list.AddGroup(property.group);
-    CPropTreeItem item;
-    item.label = property.label;
-    item.kind = property.kind;
-    item.choices = property.choices;
-    list.AddItem(std::move(item));
-  }
+  AddPropertyRows(list, Properties());
 }
 
 void pipes::ShowPipeProperties(CPropTree& list, const CZPPipeMaterial* material) {

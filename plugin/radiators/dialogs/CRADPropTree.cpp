@@ -3,6 +3,8 @@
 #include <iterator>
 
 #include "host/afx/Numbers.h"
+#include "plugin/base/ExactText.h"
+#include "plugin/graph/PropertyRows.h"
 #include "plugin/radiators/RadiatorFormulas.h"
 
 namespace {
@@ -60,30 +62,15 @@ const FormulaState& StateOf(int formula) {
   return formula >= 0 && formula < static_cast<int>(std::size(kStates)) ? kStates[formula] : kNoFormula;
 }
 
-// Every digit, since the text is read back: 0.2, 80, 1.286.
-CString NumberText(double value) {
-  CString text = CString::FromUtf8(afx::ShortestDouble(value));
-  if (text.Right(2) == L".0") text = text.Left(text.GetLength() - 2);
-  return text;
-}
-
 // A number whose text nobody has changed stays what it is, also one that no text means, such as infinity.
 void Take(double& value, const CString& text) {
-  if (text != NumberText(value)) value = afx::wcstod(text, nullptr);
+  if (text != ZP::ExactText(value)) value = afx::wcstod(text, nullptr);
 }
 
 } // namespace
 
 CRADPropTree::CRADPropTree(CFormWnd& form, const CString& caption) : CPropTree(form, caption) {
-  for (const Property& property : Properties()) {
-    if (property.group) AddGroup(property.group);
-    CPropTreeItem item;
-    item.label = property.label;
-    item.kind = property.kind;
-    item.choices = property.choices;
-    item.info = property.info;
-    AddItem(std::move(item));
-  }
+  AddPropertyRows(*this, Properties());
   // Before the dialog hears of it, so that it reads the numbers of the new formula.
   ItemChanged.Connect([this](int item) {
     if (item == formulaItem) ChangeFormula();
@@ -99,11 +86,11 @@ void CRADPropTree::Fill(const CString& typeName, const CZPRadiator* radiator) {
   SetText(formulaItem, radiator ? radiator->GetCalFormula() : Item(formulaItem).choices.front());
   SetInfo(formulaItem, StateOf(formula).info);
   SetText(unitItem, radiator ? radiator->m_strUnit : CString(L"片"));
-  SetText(aItem, NumberText(0));
-  SetText(bItem, NumberText(0));
+  SetText(aItem, ZP::ExactText(0));
+  SetText(bItem, ZP::ExactText(0));
   ShowCoefficients(formula);
-  SetText(areaItem, NumberText(radiator ? radiator->m_dF : 0));
-  SetText(outputItem, NumberText(radiator ? radiator->m_dQs : 0));
+  SetText(areaItem, ZP::ExactText(radiator ? radiator->m_dF : 0));
+  SetText(outputItem, ZP::ExactText(radiator ? radiator->m_dQs : 0));
 }
 
 CString CRADPropTree::Read(CZPRadiator& radiator) const {
@@ -147,6 +134,6 @@ void CRADPropTree::ChangeFormula() {
 void CRADPropTree::ShowCoefficients(int formula) {
   const FormulaState& state = StateOf(formula);
   if (state.a && !m_pRadiator) return;
-  SetText(aItem, NumberText(state.a ? m_pRadiator->*state.a : 0));
-  SetText(bItem, NumberText(state.b ? m_pRadiator->*state.b : 0));
+  SetText(aItem, ZP::ExactText(state.a ? m_pRadiator->*state.a : 0));
+  SetText(bItem, ZP::ExactText(state.b ? m_pRadiator->*state.b : 0));
 }

@@ -1,3 +1,5 @@
+#include "ZpPaths.h"
+#include "host/ed/AcRxDynamicLinker.h"
 #include "tests/host/commands/CommandFixture.h"
 
 namespace {
@@ -91,6 +93,19 @@ TEST_F(DrawingCommands, HelpListsEveryCommand) {
   run(L"HELP");
   for (const auto& command : acedRegCmds->commands()) EXPECT_TRUE(frontEnd.said(command->globalName()));
   EXPECT_TRUE(frontEnd.said(L"LINE（L）  画直线"));
+}
+
+TEST_F(DrawingCommands, HelpTakesTitlesOfPlugInsFromTheirMenuFiles) {
+  const CString plugIn = file("good.so");
+  std::filesystem::copy_file(ZP_BINARY_DIR "/tests/sampleplugins/good.so", plugIn.ToUtf8());
+  write(file("good.menu"), "[例]\nSAMPLEHELLO 问好\n");
+  ASSERT_TRUE(acrxDynamicLinker->loadModule(plugIn)) << acrxDynamicLinker->lastError().ToUtf8();
+  run(L"HELP");
+  EXPECT_TRUE(frontEnd.said(L"SAMPLEHELLO  问好\n"));
+  acrxDynamicLinker->unloadAll();
+  frontEnd.output.Empty();
+  run(L"HELP");
+  EXPECT_FALSE(frontEnd.said(L"问好"));
 }
 
 TEST_F(DrawingCommands, SetVarShowsAndSets) {

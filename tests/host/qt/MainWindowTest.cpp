@@ -148,16 +148,6 @@ TEST_F(Window, TurnsSnapAndOrthoOnAndOffByKeys) {
   EXPECT_EQ(1, SystemVariables::integer(L"ORTHOMODE"));
 }
 
-TEST(MenuFile, HoldsMenusWithCommandsAndTitles) {
-  const auto groups = desktop::ParseMenuFile("# remark\n[管道]\nA_B 管 径\r\n\n[]\nnothing\nX\tY\n");
-  ASSERT_EQ(2u, groups.size());
-  EXPECT_EQ(CString(L"管道"), groups[0].title);
-  ASSERT_EQ(1u, groups[0].entries.size());
-  EXPECT_EQ(CString(L"A_B"), groups[0].entries[0].command);
-  EXPECT_EQ(CString(L"管 径"), groups[0].entries[0].title);
-  ASSERT_EQ(1u, groups[1].entries.size());
-}
-
 TEST(PromptOptions, AreTheWordsInTheBracketsOfAPrompt) {
   const auto options = desktop::PromptOptions(L"下一点或 [闭合(C)/放弃(U)]:");
   ASSERT_EQ(2u, options.size());
