@@ -4,6 +4,7 @@
 
 #include "plugin/fancoil/OldCatalogueImport.h"
 #include "plugin/layers/LayerService.h"
+#include "plugin/radiators/CZPRadiatorManager.h"
 #include "tests/support/ScriptedEditor.h"
 #include "tests/support/TempInstall.h"
 #include "tests/support/UiFrontEndScript.h"
@@ -52,19 +53,33 @@ TEST(CommandTable, ImportsOldFanCoilsWithoutADialog) {
   EXPECT_EQ(CommandTable()[19].handler, &fancoil::ImportOldCatalogue);
 }
 
-TEST(CommandTable, OpensTheLayerManagerWithTheResourcesAndNoParent) {
-  const TempInstall install;
+// Runs the command of a row, and looks at the dialog that it opens.
+void ExpectOpensWithoutParent(std::size_t row, const CString& caption) {
   ScriptedEditor editor;
   UiFrontEndScript frontEnd;
   std::size_t depth = 0;
   frontEnd.runs = {[&](CDialog& dialog) {
-    EXPECT_EQ(dialog.GetCaption().Left(5), L"图层管理器");
+    EXPECT_EQ(dialog.GetCaption().Left(caption.GetLength()), caption);
     EXPECT_EQ(dialog.GetParent(), nullptr);
     depth = acDocManagerPtr()->resourceDepth();
   }};
-  CommandTable()[4].handler();
+  CommandTable()[row].handler();
   EXPECT_EQ(depth, 1u);
   EXPECT_EQ(acDocManagerPtr()->resourceDepth(), 0u);
+}
+
+TEST(CommandTable, OpensTheLayerManagerWithTheResourcesAndNoParent) {
+  const TempInstall install;
+  ExpectOpensWithoutParent(4, L"图层管理器");
+}
+
+TEST(CommandTable, OpensTheRadiatorCalculationWithTheResourcesAndNoParent) {
+  const TempInstall install;
+  auto& catalogue = *CZPRadiatorManager::GetInstance();
+  catalogue.Add(L"铸铁");
+  catalogue.m_arrTypes[0]->Add(new CZPRadiator);
+  ExpectOpensWithoutParent(21, L"散热器片数计算");
+  catalogue.Remove(catalogue.m_arrTypes[0]);
 }
 
 TEST(CommandTable, OpensDialogsWithoutAWordWhereNobodyCanSeeThem) {

@@ -81,6 +81,11 @@ class CalculateFixture : public RadiatorCatalogueFixture {
     EXPECT_EQ(dialog.Radiator(), radiator);
   }
 
+  // Presses the button, and answers the prompt for a room.
+  void PickRoom(Dlg& dialog, const wchar_t* answer) {
+    editor.lines = {answer};
+    EXPECT_TRUE(dialog.m_pickRoom.UserClick());
+  }
   // Presses the button, and answers the prompt for the place.
   void Annotate(Dlg& dialog, const wchar_t* place) {
     editor.lines = {place};

@@ -365,8 +365,7 @@ TEST_F(CorrectionButtons, LeaveTheFieldWhenTheTableIsCancelled) {
 TEST_F(RadiatorCalculation, TakesLoadAndTemperatureOfAPickedRoomAndCalculates) {
   AddCalculatedRoom(1850.256, 18.5);
   In([&](Dlg& dialog) {
-    editor.lines = {L"0,1000"};
-    EXPECT_TRUE(dialog.m_pickRoom.UserClick());
+    PickRoom(dialog, L"0,1000");
     EXPECT_EQ(dialog.m_load.GetText(), L"1850.26");
     EXPECT_EQ(dialog.m_room.GetText(), L"18.5");
     SZPRadCalData data;
@@ -385,8 +384,7 @@ TEST_F(RadiatorCalculation, StepsAsideWhileTheRoomIsPicked) {
   In([&](Dlg& dialog) {
     bool visible = true;
     dialog.Changed.Connect([&](const UiChange&) { visible = visible && dialog.IsWindowVisible(); });
-    editor.lines = {L"0,1000"};
-    EXPECT_TRUE(dialog.m_pickRoom.UserClick());
+    PickRoom(dialog, L"0,1000");
     EXPECT_FALSE(visible);
     EXPECT_TRUE(dialog.IsWindowVisible());
   });
@@ -397,8 +395,7 @@ TEST_F(RadiatorCalculation, KeepsTheOldLoadButCalculatesWhenThePickIsCancelled) 
   In([&](Dlg& dialog) {
     EXPECT_TRUE(dialog.m_load.UserType(L"2000"));
     EXPECT_TRUE(dialog.m_room.UserType(L"21"));
-    editor.lines = {L"*cancel*"};
-    EXPECT_TRUE(dialog.m_pickRoom.UserClick());
+    PickRoom(dialog, L"*cancel*");
     EXPECT_EQ(dialog.m_load.GetText(), L"2000");
     EXPECT_EQ(dialog.m_room.GetText(), L"21");
     SZPRadCalData data;
@@ -413,8 +410,7 @@ TEST_F(RadiatorCalculation, KeepsTheOldLoadButCalculatesWhenThePickIsCancelled) 
 TEST_F(RadiatorCalculation, KeepsTheOldLoadForARoomWithoutARecord) {
   AddCalculatedRoom(1850, 0, false);
   In([&](Dlg& dialog) {
-    editor.lines = {L"0,1000"};
-    EXPECT_TRUE(dialog.m_pickRoom.UserClick());
+    PickRoom(dialog, L"0,1000");
     EXPECT_EQ(dialog.m_load.GetText(), L"1000.00");
   });
   EXPECT_GE(editor.printed.Find(L"该房间编号无负荷对象信息。"), 0);
@@ -424,8 +420,7 @@ TEST_F(RadiatorCalculation, TakesARoomsTemperatureForAFixedOutputToo) {
   AddCalculatedRoom(1600, 22);
   In([&](Dlg& dialog) {
     SwitchTo(dialog, fixed);
-    editor.lines = {L"0,1000"};
-    EXPECT_TRUE(dialog.m_pickRoom.UserClick());
+    PickRoom(dialog, L"0,1000");
     EXPECT_EQ(dialog.m_room.GetText(), L"22");
     EXPECT_EQ(dialog.m_result.GetText(), L"20.00");
   });
