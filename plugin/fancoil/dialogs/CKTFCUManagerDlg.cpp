@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "plugin/base/DefaultValues.h"
-#include "plugin/base/TextList.h"
 #include "plugin/fancoil/dialogs/CKTFCUManagerAddDlg.h"
 #include "plugin/fancoil/dialogs/Favourites.h"
 #include "plugin/graph/Notice.h"
@@ -46,13 +45,7 @@ CKTFCUManagerDlg::CKTFCUManagerDlg(CFCUEquipment* equipment, bool favourites, CW
       m_bCommon(favourites) {
   m_properties.ShowCaption(false);
   m_tree.ShowCaption(false);
-  m_take.SetToolTip(L"加入常用");
-  m_drop.SetToolTip(L"移出常用");
-  m_up.SetToolTip(L"上移");
-  m_down.SetToolTip(L"下移");
-  for (CWnd* control : {static_cast<CWnd*>(&m_favourites), static_cast<CWnd*>(&m_take),
-                        static_cast<CWnd*>(&m_drop), static_cast<CWnd*>(&m_up), static_cast<CWnd*>(&m_down)})
-    control->ShowWindow(m_bCommon);
+  m_favourites.ShowWindow(m_bCommon);
 
   m_tree.SelectionChanged.Connect([this] {
     if (CFCUEquipment* model = m_tree.ModelOf(m_tree.GetSelectedItem())) MakeCurrent(model);
@@ -66,11 +59,8 @@ CKTFCUManagerDlg::CKTFCUManagerDlg(CFCUEquipment* equipment, bool favourites, CW
       m_szStructFilter = FilterOf(m_structure);
       FillTree();
     });
-  m_favourites.SelectionChanged.Connect([this] { SelectFavourite(); });
-  m_take.Clicked.Connect([this] { TakeFavourite(); });
-  m_drop.Clicked.Connect([this] { DropFavourite(); });
-  m_up.Clicked.Connect([this] { MoveFavourite(-1); });
-  m_down.Clicked.Connect([this] { MoveFavourite(1); });
+  m_favourites.Selected.Connect([this] { SelectFavourite(); });
+  m_favourites.m_take.Clicked.Connect([this] { TakeFavourite(); });
   m_add.Clicked.Connect([this] { Add(); });
   m_modify.Clicked.Connect([this] { Modify(); });
   m_delete.Clicked.Connect([this] { Delete(); });
@@ -82,9 +72,8 @@ CKTFCUManagerDlg::CKTFCUManagerDlg(CFCUEquipment* equipment, bool favourites, CW
 UiLayout CKTFCUManagerDlg::Layout() {
   std::vector<UiLayout> panels;
   if (m_bCommon) {
-    panels.push_back(ui::Column({ui::Item(m_favourites).Stretch(1).Size(190, 300),
-                                 ui::Row({ui::Item(m_up), ui::Item(m_down), ui::Space()})}));
-    panels.push_back(ui::Column({ui::Space(), ui::Item(m_take), ui::Item(m_drop), ui::Space()}));
+    panels.push_back(m_favourites.ListLayout());
+    panels.push_back(m_favourites.ButtonLayout());
   }
   panels.push_back(
       ui::Column({ui::Item(m_install), ui::Item(m_structure), ui::Item(m_tree).Stretch(1).Size(210, 300)}));
@@ -104,9 +93,7 @@ void CKTFCUManagerDlg::OnInitDialog() {
   }
   if (m_bCommon) {
     m_bReadOnly = true;
-    m_commonList = fancoil::ReadFavourites(m_catalogue);
-    if (m_commonList.IsEmpty()) m_commonList = fancoil::FirstFavourites(m_catalogue);
-    ShowFavourites(-1);
+    m_favourites.Read();
   }
   m_szInstallFilter = FillFilter(m_install, kInstallKey, {L"明装", L"暗装"});
   m_szStructFilter = FillFilter(m_structure, kStructKey, {L"卧式", L"立式"});
@@ -205,32 +192,17 @@ void CKTFCUManagerDlg::Delete() {
 }
 
 void CKTFCUManagerDlg::Save() {
-  m_bCanClose = true;
   ZP::SetDefaultValue(kInstallKey, m_szInstallFilter);
   ZP::SetDefaultValue(kStructKey, m_szStructFilter);
   if (!m_bReadOnly) m_catalogue.SaveData();
-  if (!m_bCommon) return;
-  if (m_commonList.IsEmpty()) {
-    notice::Tell(L"常用风机盘管列表不能为空!");
-    m_bCanClose = false;
-    return;
-  }
-  fancoil::WriteFavourites(m_commonList);
+  m_bCanClose = !m_bCommon || m_favourites.Write();
 }
 
 // --- the favourites
 
-void CKTFCUManagerDlg::ShowFavourites(int selected) {
-  const UiQuietly quietly(m_favourites);
-  m_favourites.ResetContent();
-  for (const CString& entry : m_commonList) m_favourites.AddString(entry);
-  m_favourites.SetCurSel(selected);
-}
-
 void CKTFCUManagerDlg::SelectFavourite() {
-  const int row = m_favourites.GetCurSel();
-  if (row < 0) return;
-  MakeCurrent(fancoil::FindFavourite(m_catalogue, m_commonList[row]));
+  if (!m_favourites.IsSelected()) return;
+  MakeCurrent(m_favourites.Current());
   m_tree.SelectModel(m_pCurrent);
 }
 
@@ -240,24 +212,5 @@ void CKTFCUManagerDlg::TakeFavourite() {
   HTREEITEM item = m_tree.GetSelectedItem();
   if (!item || m_tree.ItemHasChildren(item)) return;
   const CFCUFactory* maker = m_tree.MakerOf(m_tree.GetParentItem(item));
-  const CString entry = maker ? fancoil::FavouriteEntry(item->text, maker->GetName()) : item->text;
-  if (ZP::IsInTextArr(entry, m_commonList)) return notice::Tell(L"所选择的风机盘管已经在常用风机盘管列表中!");
-  m_commonList.Add(entry);
-  ShowFavourites(m_favourites.GetCurSel());
-}
-
-void CKTFCUManagerDlg::DropFavourite() {
-  const int row = m_favourites.GetCurSel();
-  if (row < 0) return;
-  m_commonList.RemoveAt(row);
-  ShowFavourites(std::min(row, static_cast<int>(m_commonList.GetSize()) - 1));
-  SelectFavourite();
-}
-
-void CKTFCUManagerDlg::MoveFavourite(int step) {
-  const int row = m_favourites.GetCurSel();
-  const int target = row + step;
-  if (row < 0 || target < 0 || target >= m_commonList.GetSize()) return;
-  std::swap(m_commonList[row], m_commonList[target]);
-  ShowFavourites(target);
+  m_favourites.Take(maker ? fancoil::FavouriteEntry(item->text, maker->GetName()) : item->text);
 }

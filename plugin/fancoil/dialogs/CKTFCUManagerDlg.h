@@ -6,9 +6,9 @@
 #include "host/ui/CButton.h"
 #include "host/ui/CComboBox.h"
 #include "host/ui/CDialog.h"
-#include "host/ui/CListBox.h"
 #include "plugin/fancoil/dialogs/BlockPreview.h"
 #include "plugin/fancoil/dialogs/CKTFCUManagerPropTree.h"
+#include "plugin/fancoil/dialogs/FavouriteList.h"
 #include "plugin/fancoil/dialogs/ModelTree.h"
 
 class CKTFCUManagerAddDlg;
@@ -28,11 +28,7 @@ class CKTFCUManagerDlg : public CDialog {
   // The water-system database as the dialog knows it, with the blocks that were made here.
   CKTDatabaseOperation& Operation() { return m_operation; }
 
-  CListBox m_favourites{*this, L"常用风机盘管"};
-  CButton m_take{*this, L"←"};
-  CButton m_drop{*this, L"→"};
-  CButton m_up{*this, L"↑"};
-  CButton m_down{*this, L"↓"};
+  fancoil::FavouriteList m_favourites{*this, *CFCUManager::GetInstance()};
   CComboBox m_install{*this, L"安装形式过滤："};
   CComboBox m_structure{*this, L"结构形式过滤："};
   fancoil::ModelTree m_tree{*this, L"风机盘管列表"};
@@ -64,11 +60,7 @@ class CKTFCUManagerDlg : public CDialog {
   void RegisterBlock(const CKTFCUManagerAddDlg& made);
   void Save();
 
-  // The favourites:
   void TakeFavourite();
-  void DropFavourite();
-  void MoveFavourite(int step);
-  void ShowFavourites(int selected);
   void SelectFavourite();
 
   CFCUManager& m_catalogue = *CFCUManager::GetInstance();
@@ -80,6 +72,5 @@ class CKTFCUManagerDlg : public CDialog {
   CString m_szStructFilter;
   bool m_bReadOnly;
   const bool m_bCommon;
-  CStringArray m_commonList;
   bool m_bCanClose = true;
 };

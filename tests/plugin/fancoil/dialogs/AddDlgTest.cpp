@@ -225,4 +225,50 @@ TEST_F(FanCoilAddDlg, MakesNoBlockWithoutADrawing) {
   });
 }
 
+// --- what the manager makes of a block
+
+TEST_F(FanCoilAddDlg, RegistersABlockThatWasMadeForAsLongAsItIsOpen) {
+  Draw();
+  In([&](Dlg& dialog) {
+    TypePick();
+    Next([&](AddDlg& add) {
+      Set(add.m_properties, L"设备型号", L"N");
+      EXPECT_TRUE(add.m_pick.UserClick());
+      EXPECT_TRUE(add.m_ok.UserClick());
+    });
+    EXPECT_TRUE(dialog.m_add.UserClick());
+    AcGePoint3d label;
+    dialog.Operation().GetFCUBzInsertPoint(L"FJPG1", label);
+    EXPECT_EQ(label, AcGePoint3d(10, 5, 0));
+  });
+  ASSERT_TRUE(Find(L"N", L"甲"));
+  EXPECT_EQ(Find(L"N", L"甲")->m_data.szDwgPath, L"FJPG1");
+  EXPECT_EQ(Find(L"N", L"甲")->m_data.dbCadLength, 60);
+  EXPECT_EQ(Find(L"N", L"甲")->m_data.dbCadWidth, 30);
+  In([&](Dlg& dialog) {
+    AcGePoint3d label(1, 2, 3);
+    dialog.Operation().GetFCUBzInsertPoint(L"FJPG1", label);
+    EXPECT_EQ(label, AcGePoint3d(1, 2, 3)) << "nothing of it is on the disk";
+  });
+}
+
+TEST_F(FanCoilAddDlg, ShowsTheBlockOfAChangedModelFromItsFile) {
+  Draw();
+  In([&](Dlg& dialog) {
+    TypePick();
+    Next([&](AddDlg& add) {
+      Set(add.m_properties, L"图块名", L"我的图块");
+      EXPECT_TRUE(add.m_pick.UserClick());
+      EXPECT_FALSE(dialog.m_preview.GetDrawing() == add.m_preview.GetDrawing());
+      EXPECT_TRUE(add.m_ok.UserClick());
+    });
+    EXPECT_TRUE(dialog.m_modify.UserClick());
+    ASSERT_TRUE(dialog.m_preview.GetDrawing());
+    EXPECT_EQ(dialog.m_preview.GetDrawing()->fileName(), fancoil::BlockFile(L"我的图块"));
+    AcGePoint3d label;
+    dialog.Operation().GetFCUBzInsertPoint(L"我的图块", label);
+    EXPECT_EQ(label, AcGePoint3d(10, 5, 0));
+  });
+}
+
 } // namespace

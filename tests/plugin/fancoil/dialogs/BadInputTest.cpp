@@ -169,11 +169,11 @@ TEST_F(BadFanCoilInput, InFavouritesLosesOnlyWhatAListCannotHold) {
       return true;
     });
     frontEnd.boxes.clear();
-    EXPECT_EQ(dialog.m_favourites.GetCount(), 10);
+    EXPECT_EQ(dialog.m_favourites.m_list.GetCount(), 10);
     EXPECT_TRUE(dialog.m_ok.UserClick());
   });
   InFavourites([&](Dlg& dialog) {
-    const CString entries = Entries(dialog.m_favourites);
+    const CString entries = Entries(dialog.m_favourites.m_list);
     for (const wchar_t* kept : {L"A|甲", L"B|甲", L"C|甲", L"A|乙", L"\n\"\U0001F600|甲", L"%s|甲"})
       EXPECT_GE(entries.Find(kept), 0) << CString(kept).ToUtf8();
   });

@@ -112,13 +112,13 @@ TEST_P(RandomFanCoilEvents, KeepFavouritesAndTheirListAlike) {
     }
     frontEnd.runs.clear();
     frontEnd.boxes.clear();
-    const CString shown = Entries(dialog.m_favourites);
+    const CString shown = Entries(dialog.m_favourites.m_list);
     EXPECT_TRUE(dialog.m_ok.UserClick());
     ASSERT_EQ(dialog.HasEnded(), !shown.IsEmpty());
     if (shown.IsEmpty()) return;
     const CString remembered = Remembered(kListKey);
-    for (int i = 0; i < dialog.m_favourites.GetCount(); ++i)
-      EXPECT_GE(remembered.Find(dialog.m_favourites.GetText(i) + L";"), 0);
+    for (int i = 0; i < dialog.m_favourites.m_list.GetCount(); ++i)
+      EXPECT_GE(remembered.Find(dialog.m_favourites.m_list.GetText(i) + L";"), 0);
   });
   EXPECT_EQ(dialogtest::Utf8(Everything()), dialogtest::Utf8(before)) << "the catalogue is for reading";
 }
