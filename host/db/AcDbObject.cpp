@@ -162,8 +162,8 @@ void AcDbObject::writeOwner(DxfRecordEditor& editor, AcDbHandle owner) const {
 
 AcDbObjectId AcDbObject::extensionDictionary() const {
   bool inDictionaryGroup = false;
-  for (const DxfTag& tag : record().tags()) {
-    if (tag.code >= 1000) break;
+  DxfTagReader reader(record().text());
+  for (DxfTag tag; reader.next(tag) && tag.code < 1000;) {
     if (tag.code == 102) inDictionaryGroup = dxf::trimBlanks(tag.value) == "{ACAD_XDICTIONARY";
     if (!inDictionaryGroup || tag.code != 360) continue;
     AcDbObjectId id;

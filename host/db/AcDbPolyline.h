@@ -26,6 +26,8 @@ class AcDbPolyline : public AcDbCurve {
   Acad::ErrorStatus setConstantWidth(double width);
   // eInvalidInput when the segments differ in width.
   Acad::ErrorStatus getConstantWidth(double& width) const;
+  // Whether a linetype runs on through the vertices.
+  bool hasPlinegen() const { return (m_flags & 128) != 0; }
   Acad::ErrorStatus setClosed(bool closed);
   bool isClosed() const override { return (m_flags & 1) != 0; }
   double elevation() const { return m_elevation; }

@@ -7,6 +7,8 @@
 namespace scene {
 namespace {
 
+constexpr int kExtendedData = 1000; // and above: often more than all the rest, and of no painter's concern
+
 std::size_t endOfOwn(DxfTags tags) {
   std::size_t end = 0;
   while (end < tags.size() && tags[end].code != 101) ++end;
@@ -45,18 +47,40 @@ bool ReadCoordinate(const DxfTag& tag, int code, AcGePoint3d& point) {
   return true;
 }
 
-EntityTags::EntityTags(const DxfRecord& record) : m_text(record.text()) {
-  constexpr std::size_t kUsualTags = 40;
-  constexpr int kExtendedData = 1000; // and above: often more than all the rest, and of no painter's concern
+// Up to the second subclass marker, behind which codes mean what the class says.
+void EntityTags::readCommon() const {
+  constexpr std::size_t kUsualTags = 12;
+  if (m_read != Read::nothing) return;
+  m_read = Read::common;
   m_all.reserve(kUsualTags);
-  DxfTagReader reader(m_text);
-  for (DxfTag tag; reader.next(tag) && tag.code < kExtendedData;) m_all.push_back(tag);
+  int markers = 0;
+  for (DxfTag tag; m_reader.next(tag) && tag.code < kExtendedData;) {
+    m_all.push_back(tag);
+    if (tag.code == 100 && ++markers == 2) break;
+    ++m_commonEnd;
+  }
+}
+
+void EntityTags::readRest() const {
+  constexpr std::size_t kUsualTags = 40;
+  if (m_read == Read::all) return;
+  readCommon();
+  m_read = Read::all;
+  if (m_all.size() > m_commonEnd) {
+    m_all.reserve(kUsualTags);
+    for (DxfTag tag; m_reader.next(tag) && tag.code < kExtendedData;) m_all.push_back(tag);
+  }
   const DxfTags inside = DxfTags(m_all).first(endOfOwn(m_all));
   m_own = inside.subspan(beginOfOwn(inside));
 }
 
+DxfTags EntityTags::own() const {
+  readRest();
+  return m_own;
+}
+
 const DxfTag* EntityTags::find(int code) const {
-  for (const DxfTag& tag : m_own)
+  for (const DxfTag& tag : own())
     if (tag.code == code) return &tag;
   return nullptr;
 }
@@ -87,7 +111,7 @@ AcGePoint3d EntityTags::point(int code) const {
 std::optional<AcGePoint3d> EntityTags::optionalPoint(int code) const {
   std::optional<AcGePoint3d> found;
   int seen = 0;
-  for (const DxfTag& tag : m_own) {
+  for (const DxfTag& tag : own()) {
     if (tag.code != code && tag.code != code + 10 && tag.code != code + 20) continue;
     if (tag.code == code && ++seen == 2) break;
     if (!found) found.emplace();
@@ -104,7 +128,7 @@ AcGeVector3d EntityTags::normal() const {
 
 std::vector<AcGePoint3d> EntityTags::points(int code) const {
   std::vector<AcGePoint3d> found;
-  for (const DxfTag& tag : m_own) {
+  for (const DxfTag& tag : own()) {
     if (tag.code == code) found.emplace_back();
     if (!found.empty()) ReadCoordinate(tag, code, found.back());
   }
@@ -112,11 +136,10 @@ std::vector<AcGePoint3d> EntityTags::points(int code) const {
 }
 
 const DxfTag* EntityTags::common(int code) const {
-  int markers = 0;
+  readCommon();
   bool inGroup = false;
-  for (const DxfTag& tag : m_all) {
+  for (const DxfTag& tag : DxfTags(m_all).first(m_commonEnd)) {
     if (tag.code == 102) inGroup = tag.value.starts_with("{");
-    if (tag.code == 100 && ++markers == 2) break;
     if (tag.code == code && !inGroup) return &tag;
   }
   return nullptr;

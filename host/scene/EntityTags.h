@@ -1,5 +1,6 @@
 // The tags of one entity as painters read them: common properties in front and extended data behind left out.
-// They are views of the entity's record, which must stay as it is.
+// They are views of the entity's record, which must stay as it is. The record is taken apart only as far as
+// someone asks: for most entities no further than the common properties.
 #pragma once
 
 #include "host/afx/CString.h"
@@ -15,15 +16,15 @@ namespace scene {
 class EntityTags {
  public:
   EntityTags() = default;
-  explicit EntityTags(const DxfRecord& record);
+  explicit EntityTags(const DxfRecord& record) : m_text(record.text()), m_reader(m_text) {}
   EntityTags(EntityTags&&) = default;
   EntityTags& operator=(EntityTags&&) = default;
 
   // The whole record, extended data and all.
   std::vector<DxfTag> all() const { return dxfTagsOf(m_text); }
-  DxfTags own() const { return m_own; } // the entity's geometry
-  auto begin() const { return m_own.begin(); }
-  auto end() const { return m_own.end(); }
+  DxfTags own() const; // the entity's geometry
+  auto begin() const { return own().begin(); }
+  auto end() const { return own().end(); }
 
   // The first tag of a code; numbers that are none, and missing ones, give the fallback.
   const DxfTag* find(int code) const;
@@ -43,9 +44,16 @@ class EntityTags {
   const DxfTag* common(int code) const;
 
  private:
+  void readCommon() const;
+  void readRest() const;
+
+  enum class Read : std::uint8_t { nothing, common, all };
   std::string_view m_text;
-  std::vector<DxfTag> m_all; // up to the extended data
-  DxfTags m_own;
+  mutable Read m_read = Read::nothing;
+  mutable DxfTagReader m_reader{{}};
+  mutable std::vector<DxfTag> m_all; // up to the extended data
+  mutable std::size_t m_commonEnd = 0;
+  mutable DxfTags m_own;
 };
 
 double RealOf(const DxfTag& tag, double fallback = 0);

@@ -6,6 +6,7 @@
 #include "host/db/AcDbHeader.h"
 #include "host/db/AcDbXrecord.h"
 #include "host/scene/DrawOrder.h"
+#include "host/scene/SceneBuilder.h"
 
 #include <algorithm>
 #include <atomic>
@@ -177,14 +178,16 @@ void LiveScene::makeStale(std::span<const SceneOptions> workers) {
   std::atomic<std::size_t> points = 0;
   for (const Page& page : m_pages)
     if (!page.stale) points += page.scene.points.size();
-  const auto make = [&](Page& page, SceneOptions options) {
-    options.limits.points -= std::min(options.limits.points, points.load());
-    page.scene = BuildScene(*m_database, page.entities, options);
+  const auto make = [&](Page& page, SceneBuilder& builder, const SceneOptions& options) {
+    builder.setPointLimit(options.limits.points - std::min(options.limits.points, points.load()));
+    for (const AcDbObjectId& id : page.entities) builder.addTopLevel(id);
+    page.scene = builder.finish();
     page.stale = page.scene.asksPlugIns && !options.asksPlugIns;
     if (!page.stale) points += page.scene.points.size();
   };
   const auto work = [&](const SceneOptions& options) {
-    for (std::size_t i = next++; i < stale.size(); i = next++) make(*stale[i], options);
+    SceneBuilder builder(*m_database, options);
+    for (std::size_t i = next++; i < stale.size(); i = next++) make(*stale[i], builder, options);
   };
   std::vector<std::jthread> threads;
   if (stale.size() >= kPagesWorthThreads && workers.size() > 1 && !refersToOthers(*m_database)) {
@@ -198,8 +201,10 @@ void LiveScene::makeStale(std::span<const SceneOptions> workers) {
   }
   work(workers.front());
   threads.clear();
-  for (Page* page : stale)
-    if (page->stale) make(*page, workers.front());
+  stale.erase(std::remove_if(stale.begin(), stale.end(), [](const Page* page) { return !page->stale; }),
+              stale.end());
+  next = 0;
+  if (!stale.empty()) work(workers.front());
 }
 
 ge::Box2d LiveScene::box() const {

@@ -9,17 +9,18 @@ namespace {
 
 struct Row {
   std::string_view name;
-  Painter painter;
+  void (*draw)(Pen& pen);
+  bool hasShape = false;
 };
 
 constexpr Row kRows[] = {
     {"3DFACE", painters::Face},
     {"ACAD_TABLE", painters::Table},
-    {"ARC", painters::Arc},
+    {"ARC", painters::Arc, true},
     {"ARC_DIMENSION", painters::Dimension},
     {"ATTDEF", painters::Attdef},
     {"ATTRIB", painters::Attrib},
-    {"CIRCLE", painters::Circle},
+    {"CIRCLE", painters::Circle, true},
     {"DIMENSION", painters::Dimension},
     {"ELLIPSE", painters::Ellipse},
     {"HATCH", painters::Hatch},
@@ -28,8 +29,8 @@ constexpr Row kRows[] = {
     {"INSERT", painters::Insert},
     {"LARGE_RADIAL_DIMENSION", painters::Dimension},
     {"LEADER", painters::Leader},
-    {"LINE", painters::Line},
-    {"LWPOLYLINE", painters::LwPolyline},
+    {"LINE", painters::Line, true},
+    {"LWPOLYLINE", painters::LwPolyline, true},
     {"MESH", painters::Mesh},
     {"MLINE", painters::MLine},
     {"MTEXT", painters::MText},
@@ -54,11 +55,11 @@ constexpr Row kRows[] = {
 Painter PainterOf(std::string_view dxfName) {
   static const auto table = [] {
     std::unordered_map<std::string_view, Painter> rows;
-    for (const Row& row : kRows) rows.emplace(row.name, row.painter);
+    for (const Row& row : kRows) rows.emplace(row.name, Painter{row.draw, row.hasShape});
     return rows;
   }();
   const auto found = table.find(dxfName);
-  return found == table.end() ? nullptr : found->second;
+  return found == table.end() ? Painter() : found->second;
 }
 
 void painters::Nothing(Pen&) {}

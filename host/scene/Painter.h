@@ -7,9 +7,12 @@
 namespace scene {
 
 class Pen;
-using Painter = void (*)(Pen& pen);
+struct Painter {
+  void (*draw)(Pen& pen) = nullptr; // null for a kind that has none
+  // It draws nothing but paths, the same ones wherever the entity stands.
+  bool hasShape = false;
+};
 
-// Null for a kind that has none.
 Painter PainterOf(std::string_view dxfName);
 
 } // namespace scene

@@ -2,6 +2,8 @@
 
 #include "host/scene/Cubic.h"
 
+#include <algorithm>
+
 namespace scene {
 
 void Path::curve(const AcGePoint2d& c1, const AcGePoint2d& c2, const AcGePoint2d& end, bool goesOn) {
@@ -21,7 +23,12 @@ void Path::clear() {
 
 ge::Box2d BoxOf(PathView path) {
   ge::Box2d box;
-  for (const AcGePoint2d& p : path.points) box.Add(p);
+  for (const AcGePoint2d& p : path.points) {
+    box.minX = std::min(box.minX, p.x);
+    box.minY = std::min(box.minY, p.y);
+    box.maxX = std::max(box.maxX, p.x);
+    box.maxY = std::max(box.maxY, p.y);
+  }
   return box;
 }
 

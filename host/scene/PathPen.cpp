@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 namespace scene {
 namespace {
@@ -12,7 +13,18 @@ namespace {
 // Beyond this, differences of a millimetre no longer exist in a double, and painters lose their sums.
 constexpr double kFarthest = 1e15;
 
+// The memory of the path before, which serves the next one: a drawing has a million of them.
+thread_local Path spare;
+
 } // namespace
+
+PathPen::PathPen(const AcGeMatrix3d& toScene) : m_matrix(toScene), m_path(std::exchange(spare, {})) {
+  m_path.clear();
+}
+
+PathPen::~PathPen() {
+  if (m_path.points.capacity() > spare.points.capacity()) spare = std::move(m_path);
+}
 
 AcGePoint2d PathPen::map(const AcGePoint3d& p) const {
   const auto& m = m_matrix.entry;
@@ -36,17 +48,31 @@ void PathPen::arc(const AcGePoint3d& centre, const AcGeVector3d& u, const AcGeVe
                   double sweep, bool begin) {
   constexpr double kFullTurn = 2 * std::numbers::pi;
   sweep = std::clamp(sweep, -kFullTurn, kFullTurn);
-  const auto at = [&](double t) { return centre + u * std::cos(t) + v * std::sin(t); };
-  const auto tangent = [&](double t) { return v * std::cos(t) - u * std::sin(t); };
   const int pieces = std::max(1, static_cast<int>(std::ceil(std::fabs(sweep) / kFullTurn * 8 - 1e-9)));
   const double step = sweep / pieces;
   const double reach = 4.0 / 3.0 * std::tan(step / 4);
-  if (begin) move(at(start));
+  // Where a piece ends, and the way from there to its control.
+  struct End {
+    AcGePoint3d at;
+    AcGeVector3d reach;
+  };
+  const auto endAt = [&](double t) {
+    const double c = std::cos(t);
+    const double s = std::sin(t);
+    return End{centre + u * c + v * s, (v * c - u * s) * reach};
+  };
+  End from = endAt(start);
+  if (begin) move(from.at);
   for (int i = 0; i < pieces; ++i) {
-    const double from = start + step * i;
-    const double to = i + 1 == pieces ? start + sweep : from + step;
-    curve(at(from) + tangent(from) * reach, at(to) - tangent(to) * reach, at(to), i > 0);
+    const End to = endAt(i + 1 == pieces ? start + sweep : start + step * (i + 1));
+    curve(from.at + from.reach, to.at - to.reach, to.at, i > 0);
+    from = to;
   }
+}
+
+void PathPen::append(PathView path) {
+  m_path.verbs.insert(m_path.verbs.end(), path.verbs.begin(), path.verbs.end());
+  for (const AcGePoint2d& p : path.points) m_path.points.push_back(map({p.x, p.y, 0}));
 }
 
 void PathPen::bulge(const AcGePoint3d& from, const AcGePoint3d& to, double bulge) {

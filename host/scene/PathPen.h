@@ -9,7 +9,10 @@ namespace scene {
 
 class PathPen {
  public:
-  explicit PathPen(const AcGeMatrix3d& toScene) : m_matrix(toScene) {}
+  explicit PathPen(const AcGeMatrix3d& toScene);
+  PathPen(PathPen&&) = default;
+  PathPen& operator=(PathPen&&) = default;
+  ~PathPen();
 
   void move(const AcGePoint3d& p);
   void line(const AcGePoint3d& p);
@@ -21,6 +24,9 @@ class PathPen {
            double sweep, bool begin = true);
   // From the last point, which from tells again, with a polyline's bulge, in the plane of the coordinates.
   void bulge(const AcGePoint3d& from, const AcGePoint3d& to, double bulge);
+
+  // A path in the plane of the coordinates.
+  void append(PathView path);
 
   AcGePoint2d map(const AcGePoint3d& p) const;
   const AcGeMatrix3d& matrix() const { return m_matrix; }

@@ -46,6 +46,12 @@ double Pen::lengthScale(const AcGeMatrix3d& m) {
 void Pen::stroke(PathPen& path, const StrokeOptions& options) {
   if (path.isEmpty()) return;
   if (path.isBroken()) return leaveOut(L"坐标超出范围");
+  if (m_record) {
+    StrokeOptions own = options;
+    own.width *= lengthScale(path.matrix());
+    m_record->parts.push_back({std::move(path.path()), own, false});
+    return;
+  }
   Primitive primitive;
   primitive.kind = Primitive::Kind::stroke;
   primitive.color = m_look.color;
@@ -60,11 +66,24 @@ void Pen::stroke(PathPen& path, const StrokeOptions& options) {
 void Pen::fill(PathPen& path, std::optional<Color> color) {
   if (path.isEmpty()) return;
   if (path.isBroken()) return leaveOut(L"坐标超出范围");
+  if (m_record) {
+    m_record->isWhole &= !color.has_value();
+    m_record->parts.push_back({std::move(path.path()), {}, true});
+    return;
+  }
   Primitive primitive;
   primitive.kind = Primitive::Kind::fill;
   primitive.color = color.value_or(m_look.color);
   primitive.clip = m_frame.clip;
   m_builder.add(primitive, path.view());
+}
+
+void Pen::draw(const Shape& shape) {
+  for (const Shape::Part& part : shape.parts) {
+    PathPen path = this->path();
+    path.append(part.path.view());
+    part.filled ? fill(path) : stroke(path, part.options);
+  }
 }
 
 void Pen::text(std::wstring text, const Font& font, const AcGeMatrix3d& toSpace, const AcGePoint3d& origin,
@@ -141,6 +160,10 @@ bool Pen::takeTraits(const AcGiSubEntityTraits& own, const AcGiSubEntityTraits& 
 }
 
 void Pen::leaveOut(const CString& what) {
+  if (m_record) {
+    m_record->isWhole = false;
+    return;
+  }
   m_builder.leaveOut(what, m_entity);
 }
 

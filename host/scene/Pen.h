@@ -7,6 +7,7 @@
 #include "host/scene/EntityTags.h"
 #include "host/scene/Look.h"
 #include "host/scene/PathPen.h"
+#include "host/scene/Shape.h"
 #include "host/scene/text/StyleLook.h"
 
 #include <optional>
@@ -17,12 +18,6 @@ class AcGiSubEntityTraits;
 namespace scene {
 
 class SceneBuilder;
-
-struct StrokeOptions {
-  double width = 0;             // drawing units; 0: the line weight
-  bool throughVertices = false; // the linetype does not begin anew at each vertex
-  bool solid = false;           // no linetype
-};
 
 class Pen {
  public:
@@ -48,6 +43,10 @@ class Pen {
 
   void stroke(PathPen& path, const StrokeOptions& options = {});
   void fill(PathPen& path, std::optional<Color> color = {});
+  // What was recorded before, in its place here.
+  void draw(const Shape& shape);
+  // Strokes and fills go into the shape from here on and not into the picture.
+  void recordIn(Shape& shape) { m_record = &shape; }
   // origin, along and up are in the coordinates of the matrix; along and up stand for a height of 1.
   void text(std::wstring text, const Font& font, const AcGeMatrix3d& toSpace, const AcGePoint3d& origin,
             const AcGeVector3d& along, const AcGeVector3d& up, std::optional<Color> color = {});
@@ -82,6 +81,7 @@ class Pen {
   const AcDbEntity& m_entity;
   const EntityTags& m_tags;
   Look m_look;
+  Shape* m_record = nullptr;
 };
 
 } // namespace scene

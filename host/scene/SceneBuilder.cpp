@@ -15,13 +15,27 @@ namespace {
 
 const EstimatedMetrics kEstimated;
 
+// Whether the height of a point doesn't matter to where it is in the picture.
+bool isFlat(const AcGeMatrix3d& toScene) {
+  return toScene.entry[0][2] == 0 && toScene.entry[1][2] == 0;
+}
+
 } // namespace
 
 SceneBuilder::SceneBuilder(AcDbDatabase& database, const SceneOptions& options)
     : m_options(options), m_own(database), m_layers(database, options.forPlotting),
       m_metrics(options.metrics ? options.metrics : &kEstimated) {
+  begin();
+}
+
+void SceneBuilder::begin() {
+  m_scene = Scene();
   m_scene.pointMode = m_own.variables.pointMode;
   m_scene.pointSize = m_own.variables.pointSize;
+  m_linetypes = LinetypePatterns();
+  m_leftOut = LeftOut();
+  m_entities = 0;
+  m_exhausted = false;
 }
 
 void SceneBuilder::addSpace(const AcDbBlockTableRecord& space) {
@@ -95,7 +109,9 @@ Path SceneBuilder::outlineOf(const AcDbObjectId& id) {
 
 Scene SceneBuilder::finish() {
   m_scene.leftOut = m_leftOut.sentences();
-  return std::move(m_scene);
+  Scene made = std::move(m_scene);
+  begin();
+  return made;
 }
 
 std::int32_t SceneBuilder::addClip(Path path, std::int32_t within) {
@@ -222,14 +238,20 @@ void SceneBuilder::drawPart(const Frame& outer, const Look& look, const AcDbEnti
   drawEntity(frame, part);
 }
 
-const EntityTags& SceneBuilder::tagsOf(const AcDbEntity& entity, bool keep, EntityTags& own) {
-  if (!keep) {
-    own = EntityTags(entity.record());
-    return own;
-  }
+SceneBuilder::Kept& SceneBuilder::keep(const AcDbEntity& entity, std::string_view type) {
   const auto [at, isNew] = m_kept.try_emplace(entity.objectId());
-  if (isNew) at->second = EntityTags(entity.record());
+  if (isNew) at->second = {EntityTags(entity.record()), PainterOf(type), nullptr};
   return at->second;
+}
+
+void SceneBuilder::drawShape(Pen& pen, Kept& kept) {
+  if (!kept.shape) {
+    kept.shape = std::make_unique<Shape>();
+    Pen recording(*this, Frame(), pen.entity(), kept.tags, pen.look());
+    recording.recordIn(*kept.shape);
+    kept.painter.draw(recording);
+  }
+  kept.shape->isWhole ? pen.draw(*kept.shape) : kept.painter.draw(pen);
 }
 
 void SceneBuilder::drawEntity(const Frame& frame, const AcDbObjectId& id) {
@@ -241,12 +263,15 @@ void SceneBuilder::drawEntity(const Frame& frame, const AcDbObjectId& id) {
   const AcDbObjectId layer = m_looks.layerOf(frame, entity->layerId());
   const bool hidden = m_looks.isHidden(frame, layer, type == "INSERT");
   if (hidden && type != "VIEWPORT") return; // whose border alone hides with its layer
-  EntityTags own;
-  const EntityTags& tags = tagsOf(*entity, frame.depth > 0, own);
+  Kept* kept = frame.depth > 0 ? &keep(*entity, type) : nullptr;
+  const EntityTags own = kept ? EntityTags() : EntityTags(record);
+  const EntityTags& tags = kept ? kept->tags : own;
   Look look = m_looks.lookOf(frame, *entity, tags, layer);
   look.hidden = hidden;
   Pen pen(*this, frame, *entity, tags, look);
-  if (const Painter painter = PainterOf(type)) return painter(pen);
+  const Painter painter = kept ? kept->painter : PainterOf(type);
+  if (kept && painter.hasShape && isFlat(frame.toScene)) return drawShape(pen, *kept);
+  if (painter.draw) return painter.draw(pen);
   m_scene.asksPlugIns = true;
   if (!m_options.asksPlugIns) return;
   WorldDrawPen draw(pen);

@@ -9,6 +9,8 @@
 #include "host/scene/LeftOut.h"
 #include "host/scene/LinetypePatterns.h"
 #include "host/scene/LookRules.h"
+#include "host/scene/Painter.h"
+#include "host/scene/Shape.h"
 
 #include <memory>
 #include <unordered_map>
@@ -17,6 +19,8 @@ class AcDbBlockTableRecord;
 class AcDbEntity;
 
 namespace scene {
+
+class Pen;
 
 class SceneBuilder {
  public:
@@ -28,7 +32,9 @@ class SceneBuilder {
   void addThrough(const Frame& frame, const AcDbBlockTableRecord& space, const ge::Box2d& visible);
   // What an entity draws, without leaving it in the picture; empty for one that is hidden.
   Path outlineOf(const AcDbObjectId& id);
+  // What was added since the last time. What was learnt of layers, styles and blocks stays for the next one.
   Scene finish();
+  void setPointLimit(std::size_t points) { m_options.limits.points = points; }
 
   // For pens:
 
@@ -58,7 +64,14 @@ class SceneBuilder {
   bool isExhausted() const { return m_exhausted; }
 
  private:
-  const EntityTags& tagsOf(const AcDbEntity& entity, bool keep, EntityTags& own);
+  // An entity of a block, which comes again with the next insertion.
+  struct Kept {
+    EntityTags tags;
+    Painter painter;
+    std::unique_ptr<Shape> shape; // null before it is drawn
+  };
+  Kept& keep(const AcDbEntity& entity, std::string_view type);
+  void drawShape(Pen& pen, Kept& kept);
   Frame blockFrame(const Frame& outer, const Look& look, const AcDbEntity& insertion,
                    const AcGeMatrix3d& toSpace) const;
   const DrawingLooks& drawingOf(const AcDbBlockTableRecord& block);
@@ -68,6 +81,7 @@ class SceneBuilder {
   };
   Mark mark() const;
   void takeBack(const Mark& mark);
+  void begin();
   void beginGroup(const AcDbObjectId& entity);
   void endGroup();
   void exhaust(const wchar_t* what);
@@ -84,8 +98,8 @@ class SceneBuilder {
   const TextMetrics* m_metrics;
   Scene m_scene;
   Group m_group;
-  std::unordered_map<AcDbObjectId, EntityTags> m_kept; // of entities in blocks, which come again
-  std::vector<AcDbObjectId> m_open;                    // blocks that are being drawn
+  std::unordered_map<AcDbObjectId, Kept> m_kept;
+  std::vector<AcDbObjectId> m_open; // blocks that are being drawn
   std::size_t m_entities = 0;
   bool m_exhausted = false;
 };

@@ -1,4 +1,7 @@
 // CIRCLE and ARC.
+#include "host/db/AcDbArc.h"
+#include "host/db/AcDbCircle.h"
+#include "host/ge/ArbitraryAxis.h"
 #include "host/scene/Pen.h"
 #include "host/scene/painters/Painters.h"
 
@@ -10,11 +13,12 @@ namespace {
 
 constexpr double kFullTurn = 2 * std::numbers::pi;
 
-void drawArc(Pen& pen, double start, double sweep) {
-  const double radius = std::fabs(pen.tags().real(40));
+template <typename Round> void drawArc(Pen& pen, const Round& round, double start, double sweep) {
+  const double radius = std::fabs(round.radius());
   if (!(radius > 0)) return pen.leaveOut(L"半径为零的圆或圆弧");
-  PathPen path = pen.path(pen.tags().normal());
-  path.arc(pen.tags().point(10), AcGeVector3d(radius, 0, 0), AcGeVector3d(0, radius, 0), start, sweep);
+  const ge::ObjectAxes axes = ge::ArbitraryAxis(round.normal());
+  PathPen path = pen.path();
+  path.arc(round.center(), axes.xAxis * radius, axes.yAxis * radius, start, sweep);
   if (sweep == kFullTurn) path.close();
   pen.stroke(path, {.throughVertices = true});
 }
@@ -22,14 +26,16 @@ void drawArc(Pen& pen, double start, double sweep) {
 } // namespace
 
 void painters::Circle(Pen& pen) {
-  drawArc(pen, 0, kFullTurn);
+  if (const auto* circle = AcDbCircle::cast(&pen.entity())) drawArc(pen, *circle, 0, kFullTurn);
 }
 
 void painters::Arc(Pen& pen) {
-  const double start = std::remainder(pen.tags().radians(50), kFullTurn);
-  double sweep = std::fmod(pen.tags().radians(51) - start, kFullTurn);
+  const auto* arc = AcDbArc::cast(&pen.entity());
+  if (!arc) return;
+  const double start = std::remainder(arc->startAngle(), kFullTurn);
+  double sweep = std::fmod(arc->endAngle() - start, kFullTurn);
   if (sweep <= 1e-12) sweep += kFullTurn;
-  drawArc(pen, start, sweep);
+  drawArc(pen, *arc, start, sweep);
 }
 
 } // namespace scene

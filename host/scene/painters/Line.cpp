@@ -1,10 +1,13 @@
 // LINE: its ends are in world coordinates, whatever its normal.
+#include "host/db/AcDbLine.h"
 #include "host/scene/Pen.h"
 #include "host/scene/painters/Painters.h"
 
 void scene::painters::Line(Pen& pen) {
+  const auto* line = AcDbLine::cast(&pen.entity());
+  if (!line) return;
   PathPen path = pen.path();
-  path.move(pen.tags().point(10));
-  path.line(pen.tags().point(11));
+  path.move(line->startPoint());
+  path.line(line->endPoint());
   pen.stroke(path);
 }
