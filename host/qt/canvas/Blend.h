@@ -5,15 +5,16 @@
 
 namespace desktop {
 
-// alpha of 256 is all of the new colour.
-inline void Blend(std::uint32_t& pixel, std::uint32_t color, unsigned alpha) {
-  constexpr std::uint32_t kRedBlue = 0xFF00FF; // two at once
-  constexpr std::uint32_t kGreen = 0x00FF00;
-  std::uint32_t rb = pixel & kRedBlue;
-  std::uint32_t g = pixel & kGreen;
-  rb += (((color & kRedBlue) - rb) * alpha) >> 8;
-  g += (((color & kGreen) - g) * alpha) >> 8;
-  pixel = 0xFF000000 | (rb & kRedBlue) | (g & kGreen);
+// The four bytes of a pixel with room for a product each.
+constexpr std::uint64_t kSpread = 0x00FF00FF00FF00FF;
+inline std::uint64_t Spread(std::uint32_t pixel) {
+  return (pixel | static_cast<std::uint64_t>(pixel) << 24) & kSpread;
+}
+
+// alpha of 256 is all of the new colour, which comes spread.
+inline void Blend(std::uint32_t& pixel, std::uint64_t color, unsigned alpha) {
+  const std::uint64_t mixed = (Spread(pixel) * (256 - alpha) + color * alpha) >> 8 & kSpread;
+  pixel = static_cast<std::uint32_t>(mixed | mixed >> 24);
 }
 
 } // namespace desktop

@@ -18,7 +18,7 @@ constexpr int kLargest = 400; // pixels of a side
 GlyphFill::GlyphFill(QImage& image, const QRect& area) : m_image(image), m_area(area & image.rect()) {}
 
 void GlyphFill::setColor(const QColor& color) {
-  m_color = color.rgb();
+  m_color = Spread(color.rgb());
   m_alpha = static_cast<float>(color.alpha()) * 256 / 255;
 }
 

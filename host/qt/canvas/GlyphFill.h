@@ -45,7 +45,7 @@ class GlyphFill {
 
   QImage& m_image;
   QRect m_area;
-  std::uint32_t m_color = 0;
+  std::uint64_t m_color = 0; // spread, see Blend
   float m_alpha = 256;
   int m_width = 0; // of the cells
   int m_height = 0;

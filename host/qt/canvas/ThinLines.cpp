@@ -12,6 +12,7 @@ namespace desktop {
 namespace {
 
 constexpr int kFixedBits = 16; // behind the point of positions across a line
+constexpr double kOne = 1 << kFixedBits;
 
 // Narrows the shares of a line that lie between two bounds of one coordinate.
 bool narrow(double from, double by, double low, double high, double& begin, double& end) {
@@ -32,13 +33,14 @@ ThinLines::ThinLines(QImage& image, const QRect& area)
       m_y{image.bytesPerLine() / 4, std::max(area.top(), 0), std::min(area.bottom() + 1, image.height())} {}
 
 void ThinLines::setColor(const QColor& color) {
-  m_color = color.rgb();
+  m_color = Spread(color.rgb());
   m_alpha = static_cast<unsigned>(color.alpha()) * 256 / 255;
 }
 
 bool ThinLines::cut(const AcGePoint2d& from, const AcGePoint2d& to, double& begin, double& end) const {
   begin = 0;
   end = 1;
+  if (isNear(from) && isNear(to)) return true;
   // A pixel more on each side: what is shaded there may reach into the area.
   return narrow(from.x, to.x - from.x, m_x.begin - 1.0, m_x.end + 1.0, begin, end) &&
          narrow(from.y, to.y - from.y, m_y.begin - 1.0, m_y.end + 1.0, begin, end);
@@ -85,15 +87,29 @@ void ThinLines::sharp(const Axis& along, const Axis& across, double a0, double a
 // One pixel along the line, of which it covers a part.
 void ThinLines::shadeOne(const Axis& along, const Axis& across, int a, double c, double part) {
   if (a < along.begin || a >= along.end) return;
-  const double below = std::floor(c - 0.5);
-  const double share = c - 0.5 - below;
-  const int at = static_cast<int>(below);
+  const auto fixed = static_cast<std::int64_t>((c - 0.5) * kOne);
+  const auto at = static_cast<int>(fixed >> kFixedBits);
+  const auto share = static_cast<unsigned>((fixed >> (kFixedBits - 8)) & 0xFF);
+  const auto alpha = static_cast<unsigned>(part * m_alpha);
+  const unsigned upper = (alpha * share) >> 8;
   std::uint32_t* pixel = m_pixels + a * along.stride + at * across.stride;
-  const double alpha = part * m_alpha;
-  if (at >= across.begin && at < across.end)
-    Blend(*pixel, m_color, static_cast<unsigned>(alpha * (1 - share)));
-  if (at + 1 >= across.begin && at + 1 < across.end)
-    Blend(pixel[across.stride], m_color, static_cast<unsigned>(alpha * share));
+  if (at >= across.begin && at < across.end) Blend(*pixel, m_color, alpha - upper);
+  if (at + 1 >= across.begin && at + 1 < across.end) Blend(pixel[across.stride], m_color, upper);
+}
+
+// Whole pixels along the line; cut: some of them may lie beside the area.
+template <bool Cut>
+void ThinLines::shadeRun(const Axis& along, const Axis& across, int begin, int end, std::int64_t c,
+                         std::int64_t step) {
+  std::uint32_t* row = m_pixels + begin * along.stride;
+  for (int a = begin; a < end; ++a, c += step, row += along.stride) {
+    const auto at = static_cast<std::ptrdiff_t>(c >> kFixedBits);
+    const auto share = static_cast<unsigned>((c >> (kFixedBits - 8)) & 0xFF);
+    const unsigned upper = (m_alpha * share) >> 8;
+    std::uint32_t* pixel = row + at * across.stride;
+    if (!Cut || (at >= across.begin && at < across.end)) Blend(*pixel, m_color, m_alpha - upper);
+    if (!Cut || (at + 1 >= across.begin && at + 1 < across.end)) Blend(pixel[across.stride], m_color, upper);
+  }
 }
 
 // The line covers one pixel across, shared by the two that it lies between.
@@ -111,18 +127,13 @@ void ThinLines::shade(const Axis& along, const Axis& across, double a0, double c
   shadeOne(along, across, last, (c1 + acrossAt(last) - slope / 2) / 2, a1 - last);
   const int begin = std::max(first + 1, along.begin);
   const int end = std::min(last, along.end);
-  constexpr double kOne = 1 << kFixedBits;
-  auto c = static_cast<std::int64_t>((acrossAt(begin) - 0.5) * kOne);
+  if (begin >= end) return;
+  const auto c = static_cast<std::int64_t>((acrossAt(begin) - 0.5) * kOne);
   const auto step = static_cast<std::int64_t>(slope * kOne);
-  std::uint32_t* const row = m_pixels;
-  for (int a = begin; a < end; ++a, c += step) {
-    const auto at = static_cast<int>(c >> kFixedBits);
-    const auto share = static_cast<unsigned>((c >> (kFixedBits - 8)) & 0xFF);
-    const unsigned upper = (m_alpha * share) >> 8;
-    std::uint32_t* pixel = row + a * along.stride + at * across.stride;
-    if (at >= across.begin && at < across.end) Blend(*pixel, m_color, m_alpha - upper);
-    if (at + 1 >= across.begin && at + 1 < across.end) Blend(pixel[across.stride], m_color, upper);
-  }
+  const auto [low, high] = std::minmax(c, c + step * (end - 1 - begin));
+  const bool inside = (low >> kFixedBits) >= across.begin && (high >> kFixedBits) + 1 < across.end;
+  inside ? shadeRun<false>(along, across, begin, end, c, step)
+         : shadeRun<true>(along, across, begin, end, c, step);
 }
 
 } // namespace desktop

@@ -26,6 +26,9 @@ class ThinLines {
   void dot(const AcGePoint2d& at);
   // The part of a line near the area, as shares of its length; false when there is none.
   bool cut(const AcGePoint2d& from, const AcGePoint2d& to, double& begin, double& end) const;
+  bool isNear(const AcGePoint2d& p) const {
+    return p.x >= m_x.begin - 1 && p.x <= m_x.end + 1 && p.y >= m_y.begin - 1 && p.y <= m_y.end + 1;
+  }
   // What lies in the box may be seen.
   bool mayShow(const ge::Box2d& box) const {
     return box.maxX >= m_x.begin - 1 && box.minX <= m_x.end + 1 && box.maxY >= m_y.begin - 1 &&
@@ -41,13 +44,15 @@ class ThinLines {
   };
   void shade(const Axis& along, const Axis& across, double a0, double c0, double a1, double c1);
   void shadeOne(const Axis& along, const Axis& across, int a, double c, double part);
+  template <bool Cut>
+  void shadeRun(const Axis& along, const Axis& across, int begin, int end, std::int64_t c, std::int64_t step);
   void sharp(const Axis& along, const Axis& across, double a0, double a1, double c);
 
   std::uint32_t* m_pixels;
   Axis m_x;
   Axis m_y;
-  std::uint32_t m_color = 0;
-  unsigned m_alpha = 256; // of 256
+  std::uint64_t m_color = 0; // spread, see Blend
+  unsigned m_alpha = 256;    // of 256
 };
 
 } // namespace desktop
