@@ -143,7 +143,9 @@ double showPlan(const CString& file, desktop::Canvas& canvas, AcApDocument*& doc
   const double began = seconds(CLOCK_MONOTONIC);
   const double used = seconds(CLOCK_PROCESS_CPUTIME_ID);
   dxf::ReadReport report;
-  document = acDocManager->openDocument(file, report);
+  dxf::ReadOptions options;
+  if (!getenv("NOAHEAD")) options.watcher = canvas.ahead();
+  document = acDocManager->openDocument(file, report, options);
   if (!document) std::abort();
   const double read = seconds(CLOCK_MONOTONIC);
   const double usedToRead = seconds(CLOCK_PROCESS_CPUTIME_ID) - used;
@@ -156,8 +158,10 @@ double showPlan(const CString& file, desktop::Canvas& canvas, AcApDocument*& doc
   canvas.repaint();
   const double shown = seconds(CLOCK_MONOTONIC);
   const double usedToPaint = seconds(CLOCK_PROCESS_CPUTIME_ID) - used - usedToRead - usedToMake;
-  std::printf("read %.3f s, its picture %.3f s, painted %.3f s; shown by read %.2f   (processor %.3f, %.3f, %.3f s)\n",
-              read - began, made - read, shown - made, (shown - began) / (read - began), usedToRead, usedToMake, usedToPaint);
+  std::printf("read %.3f s, its picture %.3f s, painted %.3f s; shown by read %.2f   (processor %.3f, %.3f, "
+              "%.3f s)\n",
+              read - began, made - read, shown - made, (shown - began) / (read - began), usedToRead,
+              usedToMake, usedToPaint);
   return (shown - began) / (read - began);
 }
 

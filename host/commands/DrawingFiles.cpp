@@ -136,6 +136,7 @@ bool OpenDrawing(const CString& path, bool recover) {
   options.recover = recover;
   LongTask task(L"读图");
   options.progress = task.progress();
+  if (auto* frontEnd = session.frontEnd()) options.watcher = frontEnd->entityWatcher();
   auto* document = acDocManager->openDocument(path, report, options);
   if (task.isCancelled() && !document) {
     acutPrintf(L"\n读图已取消，没有打开 %s。\n", path);

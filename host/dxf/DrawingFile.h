@@ -13,6 +13,8 @@ class AcDbDatabase;
 
 namespace dxf {
 
+class EntityWatcher;
+
 // Something in a file that was not as it should be and was mended without losing anything.
 struct Repair {
   std::size_t line = 0; // in the file, from 1; 0 where it belongs to no line
@@ -27,6 +29,7 @@ struct ReadOptions {
   // Take what can be saved of a file that is cut off or broken, instead of refusing it. Each loss is listed.
   bool recover = false;
   Progress progress;
+  EntityWatcher* watcher = nullptr; // null for none; must outlive the reading
 };
 
 struct ReadReport {

@@ -4,6 +4,7 @@
 #include "host/db/AcDbBlockTable.h"
 #include "host/db/AcDbSymbolTable.h"
 #include "host/dxf/BlockCycles.h"
+#include "host/dxf/EntityWatcher.h"
 #include "host/dxf/RecordValues.h"
 
 namespace {
@@ -133,6 +134,10 @@ void dxf::DrawingReader::readSection() {
   const CString name = nameOf(tags);
   section.name = name.ToUtf8();
   section.firstRank = m_rank + 1;
+  const bool isGround = section.name == "HEADER" || section.name == "TABLES" || section.name == "BLOCKS" ||
+                        section.name == "ENTITIES";
+  if (isGround && m_options.watcher && m_sectionCounts.contains("ENTITIES"))
+    m_options.watcher->groundChanged();
   if (++m_sectionCounts[section.name] == 2) m_context.repaired(tags.front(), quoted(L"段“%s”重复出现", name));
   if (section.name == "HEADER") {
     readHeader(section);

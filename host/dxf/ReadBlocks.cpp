@@ -3,9 +3,34 @@
 #include "host/db/AcDbBlockReference.h"
 #include "host/db/AcDbBlockTable.h"
 #include "host/dxf/DrawingReader.h"
+#include "host/dxf/EntityWatcher.h"
 #include "host/dxf/RecordValues.h"
 
 namespace {
+
+// Tells the watcher of entities as they are done, and that it is over whichever way the reading ends.
+class Announcer {
+ public:
+  explicit Announcer(dxf::EntityWatcher* watcher) : m_watcher(watcher) {}
+  ~Announcer() {
+    if (m_watcher) m_watcher->entitiesEnd();
+  }
+  Announcer(const Announcer&) = delete;
+  Announcer& operator=(const Announcer&) = delete;
+
+  // The last entity may still get what belongs to it.
+  void grown(const AcDbBlockTableRecord& space) {
+    constexpr std::size_t kTogether = 2048;
+    const std::span<const AcDbObjectId> entities = space.entities();
+    if (!m_watcher || entities.size() <= m_told + kTogether) return;
+    m_watcher->entitiesRead(space, entities.subspan(m_told, kTogether));
+    m_told += kTogether;
+  }
+
+ private:
+  dxf::EntityWatcher* m_watcher;
+  std::size_t m_told = 0;
+};
 
 // Whether a record announces sub-entities: group 66, which means this in every entity that has it.
 bool announcesSubEntities(DxfTags tags) {
@@ -112,6 +137,9 @@ void dxf::DrawingReader::readEntities() {
     if (!cached) cached = &spaceNamed(name);
     return *cached;
   };
+  const bool hasGround = m_sectionCounts.contains("TABLES") && m_sectionCounts.contains("BLOCKS") &&
+                         m_sectionCounts["ENTITIES"] == 1;
+  Announcer announcer(hasGround ? m_options.watcher : nullptr);
   while (nextRecord() && !atSectionEnd()) {
     const DxfTag* flag = headTag(m_scanner.tags(), 67);
     if (!flag) // behind the entity marker in newer files
@@ -119,6 +147,7 @@ void dxf::DrawingReader::readEntities() {
         if (tag.code == 67) flag = &tag;
     const bool inPaper = flag && trimBlanks(flag->value) == "1";
     readEntityInto(inPaper ? space(paper, ACDB_PAPER_SPACE) : space(model, ACDB_MODEL_SPACE));
+    if (model) announcer.grown(*model);
   }
 }
 

@@ -10,6 +10,10 @@
 class AcApDocument;
 class CWnd;
 
+namespace dxf {
+class EntityWatcher;
+}
+
 struct EdMessageBox {
   CString caption;
   CString text;
@@ -53,6 +57,8 @@ class EdFrontEnd {
   // Whether the user has cancelled what runs, since this was asked last, without a line that says so: by an
   // interrupt of the terminal. Asked ahead of each line; what is left of scripts is left out then.
   virtual bool takeInterrupt() { return false; }
+  // Is told of the entities of a drawing that is being opened to be shown; null for nobody.
+  virtual dxf::EntityWatcher* entityWatcher() { return nullptr; }
   // The document's picture is to be drawn anew.
   virtual void regenerate(AcApDocument&) {}
   // Whatever is still to be drawn is to be drawn before the program goes on.

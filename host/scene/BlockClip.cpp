@@ -2,6 +2,7 @@
 
 #include "host/db/AcDbDictionary.h"
 #include "host/db/AcDbEntity.h"
+#include "host/scene/SceneBuilder.h"
 
 #include <array>
 
@@ -28,6 +29,8 @@ AcGeMatrix3d matrixOf(std::span<const double> numbers) {
 
 void ClipToBlock(Pen& pen, const AcGeMatrix3d& blockTransform) {
   constexpr std::size_t kMatrices = 24;
+  if (!HasExtensionDictionary(pen.entity().record())) return;
+  if (pen.builder().options().whileReading) return pen.builder().wait();
   const AcDbObject* filter = filterOf(pen.entity());
   if (!filter) return;
   std::vector<AcGePoint3d> corners;

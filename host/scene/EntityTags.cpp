@@ -27,6 +27,16 @@ std::size_t beginOfOwn(DxfTags tags) {
 
 } // namespace
 
+bool HasExtensionDictionary(const DxfRecord& record) {
+  int markers = 0;
+  DxfTagReader reader(record.text());
+  for (DxfTag tag; reader.next(tag) && tag.code < kExtendedData;) {
+    if (tag.code == 102 && dxf::trimBlanks(tag.value) == "{ACAD_XDICTIONARY") return true;
+    if (tag.code == 100 && ++markers == 2) return false; // groups stand ahead
+  }
+  return false;
+}
+
 double RealOf(const DxfTag& tag, double fallback) {
   return dxf::toReal(tag.value).value_or(fallback);
 }

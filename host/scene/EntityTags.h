@@ -56,6 +56,9 @@ class EntityTags {
   mutable DxfTags m_own;
 };
 
+// Whether a record names a dictionary of further data, looked up by nobody.
+bool HasExtensionDictionary(const DxfRecord& record);
+
 double RealOf(const DxfTag& tag, double fallback = 0);
 long long IntegerOf(const DxfTag& tag, long long fallback = 0);
 // Sets the coordinate that the tag is of a point of code; false when it is none.

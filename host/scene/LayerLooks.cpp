@@ -17,6 +17,7 @@ LayerLook lookOf(const AcDbLayerTableRecord& layer, bool forPlotting) {
   look.off = layer.isOff() || (forPlotting && neverPlotted);
   look.frozen = layer.isFrozen();
   look.isZero = layer.name() == L"0";
+  if (layer.handle().isNull()) return look; // of a drawing that is being read, which lacks it
   const auto tags = layer.record().tags();
   for (const DxfTag& tag : dxfOwnTags(tags))
     if (tag.code == 420) look.color = Color::fromTrueColor(dxf::toInteger(tag.value).value_or(0));

@@ -28,6 +28,7 @@ class LayerLooks {
   // The layers of an external reference: as its drawing has them, unless this one keeps changes of its own
   // in a layer named "BLOCK|LAYER".
   void addReferenced(const AcDbDatabase& referenced, const CString& block);
+  bool knows(const AcDbObjectId& layer) const { return m_looks.contains(layer); }
   // A look of its own for a layer that the drawing doesn't have.
   const LayerLook& of(const AcDbObjectId& layer) const;
 

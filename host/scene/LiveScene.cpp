@@ -6,6 +6,8 @@
 #include "host/db/AcDbHeader.h"
 #include "host/db/AcDbXrecord.h"
 #include "host/scene/DrawOrder.h"
+#include "host/scene/ReferredDrawings.h"
+#include "host/scene/SceneAhead.h"
 #include "host/scene/SceneBuilder.h"
 
 #include <algorithm>
@@ -32,29 +34,23 @@ AcDbObjectId wholeOf(const AcDbEntity& entity) {
   return whole;
 }
 
-// Drawings that this one refers to are read where they are needed, by one thread.
-bool refersToOthers(const AcDbDatabase& database) {
-  const auto* blocks = AcDbBlockTable::cast(database.blockTableId().object());
-  return blocks &&
-         std::any_of(blocks->records().begin(), blocks->records().end(), [](const AcDbObjectId& id) {
-           const auto* block = AcDbBlockTableRecord::cast(id.object());
-           return block && block->isFromExternalReference();
-         });
-}
-
 } // namespace
 
 LiveScene::~LiveScene() {
   show(nullptr, {});
 }
 
-void LiveScene::show(AcDbDatabase* database, const AcDbObjectId& space) {
+void LiveScene::show(AcDbDatabase* database, const AcDbObjectId& space, SceneAhead* ahead) {
   if (m_database) m_database->removeReactor(this);
   m_database = database;
   m_space = space;
   if (m_database) m_database->addReactor(this);
   m_pages.clear();
-  m_all = true;
+  if (ahead && m_database) m_pages = ahead->take(*m_database, space);
+  m_all = m_pages.empty();
+  if (m_all) return;
+  m_variables = VariablesOf(*m_database);
+  m_order = m_any = true;
 }
 
 // An object came or went.
@@ -135,7 +131,7 @@ void LiveScene::repage(const std::vector<AcDbObjectId>& order) {
         !std::equal(ids.begin(), ids.end(), order.begin() + static_cast<std::ptrdiff_t>(end - ids.size())))
       break;
   }
-  std::vector<Page> fresh;
+  std::vector<ScenePage> fresh;
   for (std::size_t at = begin; at < end; at += m_pageSize) {
     const auto from = order.begin() + static_cast<std::ptrdiff_t>(at);
     fresh.emplace_back().entities.assign(from,
@@ -148,7 +144,7 @@ void LiveScene::repage(const std::vector<AcDbObjectId>& order) {
 }
 
 void LiveScene::markTouched() {
-  for (Page& page : m_pages) {
+  for (ScenePage& page : m_pages) {
     // What plug-ins draw may depend on anything.
     page.stale |= page.scene.asksPlugIns;
     if (page.stale || m_touched.empty()) continue;
@@ -159,7 +155,7 @@ void LiveScene::markTouched() {
 
 void LiveScene::addTouchedBoxes(Change& change) const {
   if (change.all) return;
-  for (const Page& page : m_pages) {
+  for (const ScenePage& page : m_pages) {
     for (const Group& group : page.scene.groups) {
       if (!page.scene.asksPlugIns && !m_touched.contains(group.entity)) continue;
       change.all |= group.unbounded;
@@ -169,16 +165,16 @@ void LiveScene::addTouchedBoxes(Change& change) const {
 }
 
 void LiveScene::makeStale(std::span<const SceneOptions> workers) {
-  std::vector<Page*> stale;
-  for (Page& page : m_pages)
+  std::vector<ScenePage*> stale;
+  for (ScenePage& page : m_pages)
     if (page.stale) stale.push_back(&page);
   m_made += stale.size();
   std::atomic<std::size_t> next = 0;
   // All pages together keep to the limit of one picture.
   std::atomic<std::size_t> points = 0;
-  for (const Page& page : m_pages)
+  for (const ScenePage& page : m_pages)
     if (!page.stale) points += page.scene.points.size();
-  const auto make = [&](Page& page, SceneBuilder& builder, const SceneOptions& options) {
+  const auto make = [&](ScenePage& page, SceneBuilder& builder, const SceneOptions& options) {
     builder.setPointLimit(options.limits.points - std::min(options.limits.points, points.load()));
     for (const AcDbObjectId& id : page.entities) builder.addTopLevel(id);
     page.scene = builder.finish();
@@ -190,7 +186,7 @@ void LiveScene::makeStale(std::span<const SceneOptions> workers) {
     for (std::size_t i = next++; i < stale.size(); i = next++) make(*stale[i], builder, options);
   };
   std::vector<std::jthread> threads;
-  if (stale.size() >= kPagesWorthThreads && workers.size() > 1 && !refersToOthers(*m_database)) {
+  if (stale.size() >= kPagesWorthThreads && workers.size() > 1 && !RefersToOthers(*m_database)) {
     // Records that are made when they are asked for are made now: nobody writes while all read.
     for (const AcDbStub& stub : m_database->stubs())
       if (stub.object) stub.object->record();
@@ -201,7 +197,7 @@ void LiveScene::makeStale(std::span<const SceneOptions> workers) {
   }
   work(workers.front());
   threads.clear();
-  stale.erase(std::remove_if(stale.begin(), stale.end(), [](const Page* page) { return !page->stale; }),
+  stale.erase(std::remove_if(stale.begin(), stale.end(), [](const ScenePage* page) { return !page->stale; }),
               stale.end());
   next = 0;
   if (!stale.empty()) work(workers.front());
@@ -209,7 +205,7 @@ void LiveScene::makeStale(std::span<const SceneOptions> workers) {
 
 ge::Box2d LiveScene::box() const {
   ge::Box2d box;
-  for (const Page& page : m_pages) box.Add(page.scene.box);
+  for (const ScenePage& page : m_pages) box.Add(page.scene.box);
   return box;
 }
 

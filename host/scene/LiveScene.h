@@ -7,6 +7,7 @@
 #include "host/db/AcDbDatabaseReactor.h"
 #include "host/scene/BuildScene.h"
 #include "host/scene/DrawingVariables.h"
+#include "host/scene/ScenePage.h"
 
 #include <span>
 #include <unordered_set>
@@ -15,6 +16,8 @@
 class AcDbBlockTableRecord;
 
 namespace scene {
+
+class SceneAhead;
 
 class LiveScene : private AcDbDatabaseReactor {
  public:
@@ -31,8 +34,9 @@ class LiveScene : private AcDbDatabaseReactor {
   LiveScene(const LiveScene&) = delete;
   LiveScene& operator=(const LiveScene&) = delete;
 
-  // Null for none. The drawing must be taken away before it is destroyed.
-  void show(AcDbDatabase* database, const AcDbObjectId& space);
+  // Null for none. The drawing must be taken away before it is destroyed. ahead: has perhaps made some of the
+  // picture while the drawing was read.
+  void show(AcDbDatabase* database, const AcDbObjectId& space, SceneAhead* ahead = nullptr);
   // All of it is to be made anew.
   void invalidate() { m_all = true; }
   // Makes anew what has changed. One set of options for each thread that may work on it, with text metrics
@@ -46,12 +50,6 @@ class LiveScene : private AcDbDatabaseReactor {
   std::size_t pagesMade() const { return m_made; }
 
  private:
-  struct Page {
-    std::vector<AcDbObjectId> entities;
-    Scene scene;
-    bool stale = true;
-  };
-
   void note(const AcDbObject& object);
   void noteMember(const AcDbObject& object);
   void checkVariables();
@@ -74,7 +72,7 @@ class LiveScene : private AcDbDatabaseReactor {
   AcDbDatabase* m_database = nullptr;
   AcDbObjectId m_space;
   DrawingVariables m_variables;
-  std::vector<Page> m_pages;
+  std::vector<ScenePage> m_pages;
   std::unordered_set<AcDbObjectId> m_touched; // entities of the space
   bool m_all = true;
   bool m_order = false; // entities came or went

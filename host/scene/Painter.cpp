@@ -10,44 +10,44 @@ namespace {
 struct Row {
   std::string_view name;
   void (*draw)(Pen& pen);
-  bool hasShape = false;
+  Reach reach = Reach::drawing;
 };
 
 constexpr Row kRows[] = {
-    {"3DFACE", painters::Face},
+    {"3DFACE", painters::Face, Reach::entities},
     {"ACAD_TABLE", painters::Table},
-    {"ARC", painters::Arc, true},
+    {"ARC", painters::Arc, Reach::shape},
     {"ARC_DIMENSION", painters::Dimension},
-    {"ATTDEF", painters::Attdef},
-    {"ATTRIB", painters::Attrib},
-    {"CIRCLE", painters::Circle, true},
+    {"ATTDEF", painters::Attdef, Reach::entities},
+    {"ATTRIB", painters::Attrib, Reach::entities},
+    {"CIRCLE", painters::Circle, Reach::shape},
     {"DIMENSION", painters::Dimension},
-    {"ELLIPSE", painters::Ellipse},
-    {"HATCH", painters::Hatch},
+    {"ELLIPSE", painters::Ellipse, Reach::entities},
+    {"HATCH", painters::Hatch, Reach::entities},
     {"HELIX", painters::Spline},
     {"IMAGE", painters::Image},
-    {"INSERT", painters::Insert},
+    {"INSERT", painters::Insert, Reach::entities},
     {"LARGE_RADIAL_DIMENSION", painters::Dimension},
     {"LEADER", painters::Leader},
-    {"LINE", painters::Line, true},
-    {"LWPOLYLINE", painters::LwPolyline, true},
+    {"LINE", painters::Line, Reach::shape},
+    {"LWPOLYLINE", painters::LwPolyline, Reach::shape},
     {"MESH", painters::Mesh},
     {"MLINE", painters::MLine},
-    {"MTEXT", painters::MText},
+    {"MTEXT", painters::MText, Reach::entities},
     {"MULTILEADER", painters::MultiLeader},
-    {"POINT", painters::Point},
-    {"POLYLINE", painters::Polyline},
-    {"RAY", painters::Ray},
-    {"SEQEND", painters::Nothing},
-    {"SOLID", painters::Solid},
-    {"SPLINE", painters::Spline},
-    {"TEXT", painters::Text},
+    {"POINT", painters::Point, Reach::entities},
+    {"POLYLINE", painters::Polyline, Reach::entities},
+    {"RAY", painters::Ray, Reach::entities},
+    {"SEQEND", painters::Nothing, Reach::entities},
+    {"SOLID", painters::Solid, Reach::entities},
+    {"SPLINE", painters::Spline, Reach::entities},
+    {"TEXT", painters::Text, Reach::entities},
     {"TOLERANCE", painters::Tolerance},
-    {"TRACE", painters::Solid},
-    {"VERTEX", painters::Nothing}, // drawn by its polyline
+    {"TRACE", painters::Solid, Reach::entities},
+    {"VERTEX", painters::Nothing, Reach::entities}, // drawn by its polyline
     {"VIEWPORT", painters::Viewport},
     {"WIPEOUT", painters::Wipeout},
-    {"XLINE", painters::XLine},
+    {"XLINE", painters::XLine, Reach::entities},
 };
 
 } // namespace
@@ -55,7 +55,7 @@ constexpr Row kRows[] = {
 Painter PainterOf(std::string_view dxfName) {
   static const auto table = [] {
     std::unordered_map<std::string_view, Painter> rows;
-    for (const Row& row : kRows) rows.emplace(row.name, Painter{row.draw, row.hasShape});
+    for (const Row& row : kRows) rows.emplace(row.name, Painter{row.draw, row.reach});
     return rows;
   }();
   const auto found = table.find(dxfName);

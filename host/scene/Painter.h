@@ -7,10 +7,16 @@
 namespace scene {
 
 class Pen;
+// What of the drawing a painter looks at.
+enum class Reach {
+  drawing,  // anything
+  entities, // its entity and those within, the blocks, layers, linetypes and styles that they name
+  shape     // its entity alone, of which it draws nothing but paths, the same ones wherever it stands
+};
+
 struct Painter {
   void (*draw)(Pen& pen) = nullptr; // null for a kind that has none
-  // It draws nothing but paths, the same ones wherever the entity stands.
-  bool hasShape = false;
+  Reach reach = Reach::drawing;
 };
 
 Painter PainterOf(std::string_view dxfName);

@@ -76,7 +76,8 @@ struct Scene {
   double pointSize =
       0;         // PDSIZE: above 0 in drawing units, else a share of the window's height, see PointMark
   ge::Box2d box; // around all groups
-  bool asksPlugIns = false; // some entities draw themselves
+  bool asksPlugIns = false;   // some entities draw themselves
+  bool isProvisional = false; // something asks for what is not read yet
   // What the drawing has and the picture doesn't, a sentence each, most important first.
   std::vector<CString> leftOut;
 

@@ -15,6 +15,11 @@ namespace {
 
 const EstimatedMetrics kEstimated;
 
+// Whether a block is all there before the objects of the drawing are read.
+bool isReadWhole(const AcDbBlockTableRecord& block) {
+  return !block.handle().isNull() && !block.isLayout() && !HasExtensionDictionary(block.record());
+}
+
 // Whether the height of a point doesn't matter to where it is in the picture.
 bool isFlat(const AcGeMatrix3d& toScene) {
   return toScene.entry[0][2] == 0 && toScene.entry[1][2] == 0;
@@ -184,6 +189,7 @@ void SceneBuilder::drawBlock(const Frame& outer, const Look& look, const AcDbEnt
   if (!record || record->isErased()) return leaveOut(L"没有图块定义", insertion);
   if (std::find(m_open.begin(), m_open.end(), block) != m_open.end())
     return leaveOut(L"图块包含自身", insertion);
+  if (m_options.whileReading && !isReadWhole(*record)) return wait();
   if (outer.depth >= m_options.limits.depth) return leaveOut(L"图块嵌套太深", insertion);
   const auto* contents = record;
   const DrawingLooks* outside = m_drawing;
@@ -258,6 +264,8 @@ void SceneBuilder::drawEntity(const Frame& frame, const AcDbObjectId& id) {
   const auto* entity = AcDbEntity::cast(id.object());
   if (!entity || entity->isErased() || entity->visibility() == AcDb::kInvisible) return;
   if (++m_entities > m_options.limits.entities) return exhaust(L"图块展开后的实体太多，其后的未画");
+  if (m_options.whileReading && (entity->handle().isNull() || !m_layers.knows(entity->layerId())))
+    return wait();
   const DxfRecord& record = entity->record();
   const std::string_view type = record.type();
   const AcDbObjectId layer = m_looks.layerOf(frame, entity->layerId());
@@ -270,7 +278,8 @@ void SceneBuilder::drawEntity(const Frame& frame, const AcDbObjectId& id) {
   look.hidden = hidden;
   Pen pen(*this, frame, *entity, tags, look);
   const Painter painter = kept ? kept->painter : PainterOf(type);
-  if (kept && painter.hasShape && isFlat(frame.toScene)) return drawShape(pen, *kept);
+  if (m_options.whileReading && painter.draw && painter.reach == Reach::drawing) return wait();
+  if (kept && painter.reach == Reach::shape && isFlat(frame.toScene)) return drawShape(pen, *kept);
   if (painter.draw) return painter.draw(pen);
   m_scene.asksPlugIns = true;
   if (!m_options.asksPlugIns) return;

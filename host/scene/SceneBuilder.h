@@ -48,6 +48,8 @@ class SceneBuilder {
   // Tells what of an entity is not in the picture. Within an external reference the user can find only the
   // entity of the space that shows it.
   void leaveOut(const CString& what, const AcDbEntity& entity);
+  // Something of the drawing that is being read isn't there yet.
+  void wait() { m_scene.isProvisional = true; }
   std::int32_t addClip(Path path, std::int32_t within);
   std::int32_t pattern(const Look& look, double linetypeLength, bool bySegment);
   // False when there is no room left.

@@ -43,8 +43,9 @@ void Canvas::setDocument(AcApDocument* document) {
   m_windowFrom.reset();
   m_panFrom.reset();
   m_shown = {};
+  m_stale = true;
   if (document) ViewControl::fit(*document, size());
-  refresh(true);
+  refresh();
 }
 
 void Canvas::setColors(const CanvasColors& colors) {

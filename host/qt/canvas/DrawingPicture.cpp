@@ -14,7 +14,7 @@ constexpr unsigned kMostThreads = 8; // of more the memory is the bound
 
 } // namespace
 
-DrawingPicture::DrawingPicture() {
+DrawingPicture::DrawingPicture() : m_ahead(&m_reading.metrics) {
   const unsigned threads = std::clamp(std::thread::hardware_concurrency(), 1U, kMostThreads);
   for (unsigned i = 0; i < threads; ++i) {
     m_options.emplace_back().metrics = &m_workers.emplace_back().metrics;
@@ -25,7 +25,7 @@ void DrawingPicture::setDocument(AcApDocument* document) {
   if (document == m_document) return;
   m_document = document;
   AcDbDatabase* database = document ? document->database() : nullptr;
-  m_scene.show(database, database ? ed::CurrentSpace(*database) : AcDbObjectId());
+  m_scene.show(database, database ? ed::CurrentSpace(*database) : AcDbObjectId(), &m_ahead);
 }
 
 scene::LiveScene::Change DrawingPicture::update() {

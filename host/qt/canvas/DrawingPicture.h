@@ -3,6 +3,7 @@
 
 #include "host/qt/canvas/TextOutlines.h"
 #include "host/scene/LiveScene.h"
+#include "host/scene/SceneAhead.h"
 
 #include <deque>
 #include <unordered_set>
@@ -19,6 +20,9 @@ class DrawingPicture {
   // Null for none. The document must be taken away before it is destroyed.
   void setDocument(AcApDocument* document);
   AcApDocument* document() const { return m_document; }
+  // Makes the picture of a drawing that is being read, for the document that comes of it; null where no
+  // processor is free for that.
+  dxf::EntityWatcher* ahead() { return threads() > 1 ? &m_ahead : nullptr; }
   // All of it is to be made anew.
   void invalidate() { m_scene.invalidate(); }
   // Looks at what changed since the last time.
@@ -46,6 +50,8 @@ class DrawingPicture {
   AcApDocument* m_document = nullptr;
   std::deque<Worker> m_workers; // one for each thread; the first is the window's own
   std::vector<scene::SceneOptions> m_options;
+  Worker m_reading; // for the thread beside that which reads
+  scene::SceneAhead m_ahead;
   scene::LiveScene m_scene;
   std::unordered_set<AcDbObjectId> m_hidden;
 };

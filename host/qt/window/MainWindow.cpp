@@ -162,6 +162,10 @@ void MainWindow::viewMoved() {
   m_canvas->viewMoved();
 }
 
+dxf::EntityWatcher* MainWindow::entityWatcher() {
+  return m_canvas->ahead();
+}
+
 std::optional<double> MainWindow::aspect() {
   if (m_canvas->height() <= 0) return std::nullopt;
   return static_cast<double>(m_canvas->width()) / m_canvas->height();
