@@ -14,6 +14,8 @@ class EntityWatcher {
  public:
   virtual ~EntityWatcher() = default;
 
+  // How many entities it wants to be told of at once.
+  virtual std::size_t together() const = 0;
   // These entities of the space are read whole, with what belongs to them, in the order of the file. Until
   // entitiesEnd any thread may look at them, at the tables' records that they refer to and into blocks that
   // are no spaces, and at nothing else of the drawing. An object without a handle is not finished: it must

@@ -20,11 +20,11 @@ class Announcer {
 
   // The last entity may still get what belongs to it.
   void grown(const AcDbBlockTableRecord& space) {
-    constexpr std::size_t kTogether = 2048;
     const std::span<const AcDbObjectId> entities = space.entities();
-    if (!m_watcher || entities.size() <= m_told + kTogether) return;
-    m_watcher->entitiesRead(space, entities.subspan(m_told, kTogether));
-    m_told += kTogether;
+    if (!m_watcher || entities.size() <= m_told + m_watcher->together()) return;
+    const auto done = entities.subspan(m_told, m_watcher->together());
+    m_watcher->entitiesRead(space, done);
+    m_told += done.size();
   }
 
  private:

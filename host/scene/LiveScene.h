@@ -29,7 +29,7 @@ class LiveScene : private AcDbDatabaseReactor {
   };
 
   // How many entities a page has at most.
-  explicit LiveScene(std::size_t pageSize = 2048) : m_pageSize(pageSize) {}
+  explicit LiveScene(std::size_t pageSize = kPageSize) : m_pageSize(pageSize) {}
   ~LiveScene() override;
   LiveScene(const LiveScene&) = delete;
   LiveScene& operator=(const LiveScene&) = delete;

@@ -26,7 +26,7 @@ bool isFinished(const AcDbDatabase& database) {
 
 } // namespace
 
-SceneAhead::SceneAhead(const TextMetrics* metrics) {
+SceneAhead::SceneAhead(const TextMetrics* metrics, std::size_t pageSize) : m_pageSize(pageSize) {
   m_options.metrics = metrics;
   m_options.asksPlugIns = false;
   m_options.whileReading = true;
@@ -58,7 +58,12 @@ void SceneAhead::entitiesRead(const AcDbBlockTableRecord& space, std::span<const
     const std::lock_guard lock(m_mutex);
     m_waiting.emplace_back(entities.begin(), entities.end());
   }
-  m_changed.notify_one();
+  m_changed.notify_all();
+}
+
+void SceneAhead::settle() {
+  std::unique_lock lock(m_mutex);
+  m_changed.wait(lock, [this] { return m_waiting.empty() && !m_working; });
 }
 
 void SceneAhead::work() {
@@ -67,8 +72,11 @@ void SceneAhead::work() {
     ScenePage page;
     {
       std::unique_lock lock(m_mutex);
+      m_working = false;
+      m_changed.notify_all();
       m_changed.wait(lock, [this] { return m_ended || !m_waiting.empty(); });
       if (m_ended) return;
+      m_working = true;
       page.entities = std::move(m_waiting.front());
       m_waiting.pop_front();
     }
@@ -90,7 +98,7 @@ void SceneAhead::entitiesEnd() {
     m_ended = true;
     m_waiting.clear();
   }
-  m_changed.notify_one();
+  m_changed.notify_all();
   m_thread.join();
   m_builder.reset();
   m_database->addReactor(this);

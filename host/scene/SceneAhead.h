@@ -21,7 +21,7 @@ class SceneBuilder;
 class SceneAhead : public dxf::EntityWatcher, private AcDbDatabaseReactor {
  public:
   // Metrics that no other thread uses meanwhile; null for estimated ones.
-  explicit SceneAhead(const TextMetrics* metrics = nullptr);
+  explicit SceneAhead(const TextMetrics* metrics = nullptr, std::size_t pageSize = kPageSize);
   ~SceneAhead() override;
   SceneAhead(const SceneAhead&) = delete;
   SceneAhead& operator=(const SceneAhead&) = delete;
@@ -30,6 +30,10 @@ class SceneAhead : public dxf::EntityWatcher, private AcDbDatabaseReactor {
   // the drawing was changed since it was read. They are given away once.
   std::vector<ScenePage> take(const AcDbDatabase& database, const AcDbObjectId& space);
 
+  // Waits until all is made that was told of.
+  void settle();
+
+  std::size_t together() const override { return m_pageSize; }
   void entitiesRead(const AcDbBlockTableRecord& space, std::span<const AcDbObjectId> entities) override;
   void entitiesEnd() override;
   void groundChanged() override;
@@ -41,6 +45,7 @@ class SceneAhead : public dxf::EntityWatcher, private AcDbDatabaseReactor {
   void goodbye(const AcDbDatabase*) override;
 
   SceneOptions m_options;
+  std::size_t m_pageSize;
   AcDbDatabase* m_database = nullptr; // null for none that would be worth it
   AcDbObjectId m_space;
   DrawingVariables m_variables;
@@ -50,6 +55,7 @@ class SceneAhead : public dxf::EntityWatcher, private AcDbDatabaseReactor {
   std::mutex m_mutex;                      // of what follows
   std::condition_variable m_changed;
   std::deque<std::vector<AcDbObjectId>> m_waiting;
+  bool m_working = false;
   bool m_ended = false;
   std::jthread m_thread; // last: it uses the rest
 };

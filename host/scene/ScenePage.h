@@ -8,6 +8,8 @@
 
 namespace scene {
 
+constexpr std::size_t kPageSize = 2048; // entities
+
 struct ScenePage {
   std::vector<AcDbObjectId> entities;
   Scene scene;
