@@ -18,6 +18,7 @@ constexpr double kLeastText = 2.5;   // pixels of height, below which a line sta
 constexpr double kCoarseLetter = 9;  // pixels of height, below which rough outlines will do
 constexpr double kLargestLetter = 60;
 constexpr double kLeastGroup = 1.0; // pixels, below which a dot stands for the entity
+constexpr double kLeastSymbol = 3;  // pixels, below which a line stands for an entity of several parts
 constexpr std::size_t kMostDashes = 20'000;
 
 ge::Box2d WorldBox(const ViewMap& map, const QRect& area) {
@@ -42,24 +43,35 @@ ScenePainter::ScenePainter(QImage& image, const QRect& area, const ViewMap& map,
 
 void ScenePainter::paint(const scene::Scene& scene, const std::unordered_set<AcDbObjectId>& hidden) {
   m_scene = &scene;
-  const double least = kLeastGroup * m_map.unitsPerPixel;
   for (const scene::Group& group : scene.groups) {
     if (!group.unbounded && !group.box.Overlaps(m_visible)) continue;
     if (!hidden.empty() && hidden.contains(group.entity)) continue;
+    if (paintTiny(group)) continue;
     const auto begin = scene.primitives.begin() + group.firstPrimitive;
-    const bool tiny = !group.unbounded && group.primitiveCount > 0 &&
-                      group.box.maxX - group.box.minX < least && group.box.maxY - group.box.minY < least &&
-                      begin->kind != scene::Primitive::Kind::point;
-    if (tiny) {
-      setColor(begin->color);
-      const QPointF at = m_map.toScreen(AcGePoint2d(group.box.minX, group.box.minY));
-      m_lines.dot({at.x(), at.y()});
-      continue;
-    }
     std::for_each(begin, begin + group.primitiveCount,
                   [this](const scene::Primitive& primitive) { paintPrimitive(primitive); });
   }
   setClip(scene::Primitive::kNone); // it is the scene's own
+}
+
+// What is too small to show its form.
+bool ScenePainter::paintTiny(const scene::Group& group) {
+  const double width = (group.box.maxX - group.box.minX) / m_map.unitsPerPixel;
+  const double height = (group.box.maxY - group.box.minY) / m_map.unitsPerPixel;
+  const double size = std::max(width, height);
+  if (!(size < (group.primitiveCount > 1 ? kLeastSymbol : kLeastGroup))) return false;
+  if (group.unbounded || group.primitiveCount == 0) return false;
+  const scene::Primitive& first = m_scene->primitives[group.firstPrimitive];
+  if (first.kind == scene::Primitive::Kind::point || first.clip != scene::Primitive::kNone) return false;
+  setColor(first.color);
+  const QPointF corner = m_map.toScreen(AcGePoint2d(group.box.minX, group.box.maxY));
+  if (size < kLeastGroup)
+    m_lines.dot({corner.x(), corner.y()});
+  else if (width > height)
+    m_lines.line({corner.x(), corner.y() + height / 2}, {corner.x() + width, corner.y() + height / 2}, true);
+  else
+    m_lines.line({corner.x() + width / 2, corner.y()}, {corner.x() + width / 2, corner.y() + height}, true);
+  return true;
 }
 
 void ScenePainter::paintPrimitive(const scene::Primitive& primitive) {

@@ -25,6 +25,7 @@ class ScenePainter {
   void paint(const scene::Scene& scene, const std::unordered_set<AcDbObjectId>& hidden = {});
 
  private:
+  bool paintTiny(const scene::Group& group);
   void paintPrimitive(const scene::Primitive& primitive);
   void setClip(std::int32_t clip);
   void setColor(const scene::Color& color);
