@@ -64,8 +64,12 @@ Acad::ErrorStatus AcDbEntity::setLayer(const AcDbObjectId& id, bool doSubents) {
 Acad::ErrorStatus AcDbEntity::setColorIndex(int index, bool doSubents) {
   AcCmColor color;
   if (const auto status = color.setColorIndex(index); status != Acad::eOk) return status;
-  return withSubEntities(doSubents,
-                         [&](AcDbEntity& e) { return e.assign(e.m_colorIndex, static_cast<short>(index)); });
+  return withSubEntities(doSubents, [&](AcDbEntity& e) {
+    const bool isAnother = e.m_colorIndex != index;
+    const auto status = e.assign(e.m_colorIndex, static_cast<short>(index));
+    if (status == Acad::eOk && isAnother) e.m_trueColor = -1;
+    return status;
+  });
 }
 
 CString AcDbEntity::linetype() const {
@@ -105,6 +109,7 @@ Acad::ErrorStatus AcDbEntity::setPropertiesFrom(const AcDbEntity* other) {
   m_layer = other->m_layer;
   m_linetype = other->m_linetype;
   m_linetypeScale = other->m_linetypeScale;
+  if (m_colorIndex != other->m_colorIndex) m_trueColor = -1;
   m_colorIndex = other->m_colorIndex;
   m_lineWeight = other->m_lineWeight;
   m_visible = other->m_visible;
@@ -250,6 +255,8 @@ void AcDbEntity::dxfInFields(DxfTags tags, const DxfDecodeContext& context) {
   m_linetype.setNull();
   m_linetypeScale = 1.0;
   m_colorIndex = AcCmColor::kByLayer;
+  m_trueColor = -1;
+  m_transparency = 0;
   m_lineWeight = AcDb::kLnWtByLayer;
   m_visible = true;
   m_paperSpace = false;
@@ -269,6 +276,12 @@ void AcDbEntity::dxfInFields(DxfTags tags, const DxfDecodeContext& context) {
     case 62:
       m_colorIndex = static_cast<short>(
           context.integerIn(tag, AcCmColor::kByBlock, AcCmColor::kByLayer, AcCmColor::kByLayer));
+      break;
+    case 420:
+      m_trueColor = static_cast<std::int32_t>(dxf::toInteger(tag.value).value_or(0) & 0xFFFFFF);
+      break;
+    case 440:
+      m_transparency = static_cast<std::int32_t>(dxf::toInteger(tag.value).value_or(0) & 0x7FFFFFFF);
       break;
     case 48:
       m_linetypeScale = context.real(tag, 1.0);
@@ -297,7 +310,8 @@ void AcDbEntity::dxfOutFields(DxfRecordEditor& editor) const {
   editor.name(8, layer(), rawRecord().isEmpty() ? L"" : L"0");
   editor.name(6, linetype(), L"ByLayer");
   // A true colour beside the index is what other programs show, so it goes when the index changes.
-  if (editor.integerAt(62).value_or(AcCmColor::kByLayer) != m_colorIndex) {
+  const bool isAnother = editor.integerAt(62).value_or(AcCmColor::kByLayer) != m_colorIndex;
+  if (isAnother || (m_trueColor < 0 && editor.integerAt(420))) {
     editor.remove(420);
     editor.remove(430);
   }

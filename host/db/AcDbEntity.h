@@ -27,7 +27,12 @@ class AcDbEntity : public AcDbObject {
 
   int colorIndex() const { return m_colorIndex; }
   AcCmColor color() const { return AcCmColor(m_colorIndex); }
+  // Another index takes a true colour away.
   Acad::ErrorStatus setColorIndex(int index, bool doSubents = true); // 0 to 256, see AcCmColor
+  // The true colour that a file has beside the index and that holds in its place, 0xRRGGBB; -1 for none.
+  int trueColor() const { return m_trueColor; }
+  // As files have it: 0 as the layer, 0x01000000 as the block, 0x02000000 and the opacity, 0 to 255.
+  int transparency() const { return m_transparency; }
 
   CString linetype() const; // "ByLayer" where none is set
   AcDbObjectId linetypeId() const { return m_linetype; }
@@ -110,6 +115,8 @@ class AcDbEntity : public AcDbObject {
   short m_lineWeight = AcDb::kLnWtByLayer;
   bool m_visible = true;
   bool m_paperSpace = false;
+  std::int32_t m_trueColor = -1;
+  std::int32_t m_transparency = 0;
   std::uint32_t m_rank = 0;
   struct SubEntities {
     std::vector<AcDbObjectId> ids;

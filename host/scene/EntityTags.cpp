@@ -57,36 +57,15 @@ bool ReadCoordinate(const DxfTag& tag, int code, AcGePoint3d& point) {
   return true;
 }
 
-// Up to the second subclass marker, behind which codes mean what the class says.
-void EntityTags::readCommon() const {
-  constexpr std::size_t kUsualTags = 12;
-  if (m_read != Read::nothing) return;
-  m_read = Read::common;
-  m_all.reserve(kUsualTags);
-  int markers = 0;
-  for (DxfTag tag; m_reader.next(tag) && tag.code < kExtendedData;) {
-    m_all.push_back(tag);
-    if (tag.code == 100 && ++markers == 2) break;
-    ++m_commonEnd;
-  }
-}
-
-void EntityTags::readRest() const {
-  constexpr std::size_t kUsualTags = 40;
-  if (m_read == Read::all) return;
-  readCommon();
-  m_read = Read::all;
-  if (m_all.size() > m_commonEnd) {
-    m_all.reserve(kUsualTags);
-    for (DxfTag tag; m_reader.next(tag) && tag.code < kExtendedData;) m_all.push_back(tag);
-  }
-  const DxfTags inside = DxfTags(m_all).first(endOfOwn(m_all));
-  m_own = inside.subspan(beginOfOwn(inside));
-}
-
 DxfTags EntityTags::own() const {
-  readRest();
-  return m_own;
+  constexpr std::size_t kUsualTags = 40;
+  if (m_isRead) return m_own;
+  m_isRead = true;
+  m_all.reserve(kUsualTags);
+  DxfTagReader reader(m_text);
+  for (DxfTag tag; reader.next(tag) && tag.code < kExtendedData;) m_all.push_back(tag);
+  const DxfTags inside = DxfTags(m_all).first(endOfOwn(m_all));
+  return m_own = inside.subspan(beginOfOwn(inside));
 }
 
 const DxfTag* EntityTags::find(int code) const {
@@ -143,16 +122,6 @@ std::vector<AcGePoint3d> EntityTags::points(int code) const {
     if (!found.empty()) ReadCoordinate(tag, code, found.back());
   }
   return found;
-}
-
-const DxfTag* EntityTags::common(int code) const {
-  readCommon();
-  bool inGroup = false;
-  for (const DxfTag& tag : DxfTags(m_all).first(m_commonEnd)) {
-    if (tag.code == 102) inGroup = tag.value.starts_with("{");
-    if (tag.code == code && !inGroup) return &tag;
-  }
-  return nullptr;
 }
 
 } // namespace scene

@@ -1,6 +1,6 @@
 // The tags of one entity as painters read them: common properties in front and extended data behind left out.
-// They are views of the entity's record, which must stay as it is. The record is taken apart only as far as
-// someone asks: for most entities no further than the common properties.
+// They are views of the entity's record, which must stay as it is. The record is taken apart only when
+// someone asks: most painters find in their entity's fields what they need.
 #pragma once
 
 #include "host/afx/CString.h"
@@ -16,7 +16,7 @@ namespace scene {
 class EntityTags {
  public:
   EntityTags() = default;
-  explicit EntityTags(const DxfRecord& record) : m_text(record.text()), m_reader(m_text) {}
+  explicit EntityTags(const DxfRecord& record) : m_text(record.text()) {}
   EntityTags(EntityTags&&) = default;
   EntityTags& operator=(EntityTags&&) = default;
 
@@ -40,19 +40,11 @@ class EntityTags {
   AcGeVector3d normal() const;
   // All points of a code, in their order.
   std::vector<AcGePoint3d> points(int code) const;
-  // The value of a code among the properties that all entities share (layer, true colour, ...).
-  const DxfTag* common(int code) const;
 
  private:
-  void readCommon() const;
-  void readRest() const;
-
-  enum class Read : std::uint8_t { nothing, common, all };
   std::string_view m_text;
-  mutable Read m_read = Read::nothing;
-  mutable DxfTagReader m_reader{{}};
+  mutable bool m_isRead = false;
   mutable std::vector<DxfTag> m_all; // up to the extended data
-  mutable std::size_t m_commonEnd = 0;
   mutable DxfTags m_own;
 };
 

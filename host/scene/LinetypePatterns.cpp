@@ -10,8 +10,10 @@ namespace scene {
 std::int32_t LinetypePatterns::find(const AcDbObjectId& linetype, double scale, bool bySegment,
                                     std::vector<Pattern>& patterns) {
   if (linetype.isNull()) return Primitive::kNone;
-  const auto key = std::make_tuple(static_cast<const void*>(linetype.stub()), scale, bySegment);
-  if (const auto found = m_known.find(key); found != m_known.end()) return found->second;
+  const Key key(linetype.stub(), scale, bySegment);
+  if (key == m_lastKey) return m_last;
+  m_lastKey = key;
+  if (const auto found = m_known.find(key); found != m_known.end()) return m_last = found->second;
   std::int32_t index = Primitive::kNone;
   const auto* record = AcDbLinetypeTableRecord::cast(linetype.object());
   const double length = record ? record->patternLength() * scale : 0;
@@ -23,7 +25,7 @@ std::int32_t LinetypePatterns::find(const AcDbObjectId& linetype, double scale, 
     patterns.push_back(std::move(pattern));
   }
   m_known.emplace(key, index);
-  return index;
+  return m_last = index;
 }
 
 bool LinetypePatterns::hasFigures(const AcDbObjectId& linetype) {

@@ -19,7 +19,10 @@ class LinetypePatterns {
   static bool hasFigures(const AcDbObjectId& linetype);
 
  private:
-  std::map<std::tuple<const void*, double, bool>, std::int32_t> m_known;
+  using Key = std::tuple<const void*, double, bool>;
+  std::map<Key, std::int32_t> m_known;
+  Key m_lastKey; // entities of one linetype mostly follow one another
+  std::int32_t m_last = Primitive::kNone;
 };
 
 } // namespace scene

@@ -3,7 +3,6 @@
 #include "host/db/AcDbEntity.h"
 #include "host/db/AcDbSymbolTableRecord.h"
 #include "host/db/AcGiSubEntityTraits.h"
-#include "host/scene/EntityTags.h"
 #include "host/scene/Transparency.h"
 
 #include <algorithm>
@@ -48,17 +47,15 @@ int LookRules::weightOf(const Frame& frame, int weight, const LayerLook& layer) 
   return weight < 0 ? kDefaultWeight : weight;
 }
 
-Look LookRules::lookOf(const Frame& frame, const AcDbEntity& entity, const EntityTags& tags,
-                       const AcDbObjectId& layer) const {
+Look LookRules::lookOf(const Frame& frame, const AcDbEntity& entity, const AcDbObjectId& layer) const {
   const LayerLook& layerLook = m_layers.of(layer);
   Look look;
   look.color = colorOf(frame, entity.colorIndex(), layerLook);
-  if (const DxfTag* tag = tags.common(420)) {
-    look.color = Color::fromTrueColor(IntegerOf(*tag));
+  if (entity.trueColor() >= 0) {
+    look.color = Color::fromTrueColor(entity.trueColor());
     look.color.alpha = layerLook.color.alpha;
   }
-  if (const DxfTag* tag = tags.common(440))
-    if (const auto alpha = EntityAlpha(IntegerOf(*tag))) look.color.alpha = *alpha;
+  if (const auto alpha = EntityAlpha(entity.transparency())) look.color.alpha = *alpha;
   look.linetype = linetypeOf(frame, entity.linetypeId(), layerLook);
   look.linetypeScale = entity.linetypeScale() > 0 ? entity.linetypeScale() : 1;
   look.weight = weightOf(frame, entity.lineWeight(), layerLook);

@@ -10,8 +10,6 @@ class AcGiSubEntityTraits;
 
 namespace scene {
 
-class EntityTags;
-
 class LookRules {
  public:
   explicit LookRules(const LayerLooks& layers) : m_layers(layers) {}
@@ -19,8 +17,7 @@ class LookRules {
   // The layer that counts for what stands on this one: layer 0 in a block is that of the insertion.
   AcDbObjectId layerOf(const Frame& frame, const AcDbObjectId& layer) const;
   bool isHidden(const Frame& frame, const AcDbObjectId& layer, bool isInsertion) const;
-  Look lookOf(const Frame& frame, const AcDbEntity& entity, const EntityTags& tags,
-              const AcDbObjectId& layer) const;
+  Look lookOf(const Frame& frame, const AcDbEntity& entity, const AcDbObjectId& layer) const;
   // Takes what an entity that draws itself has set since into its look; own is what the traits began with.
   // False when it has gone to a layer that is not shown.
   bool apply(const Frame& frame, const AcGiSubEntityTraits& own, const AcGiSubEntityTraits& now,

@@ -281,7 +281,7 @@ void SceneBuilder::drawEntity(const Frame& frame, const AcDbObjectId& id) {
   Kept* kept = frame.depth > 0 ? &keep(*entity, type) : nullptr;
   const EntityTags own = kept ? EntityTags() : EntityTags(record);
   const EntityTags& tags = kept ? kept->tags : own;
-  Look look = m_looks.lookOf(frame, *entity, tags, layer);
+  Look look = m_looks.lookOf(frame, *entity, layer);
   look.hidden = hidden;
   Pen pen(*this, frame, *entity, tags, look);
   const Painter painter = kept ? kept->painter : PainterOf(type);

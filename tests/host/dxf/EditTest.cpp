@@ -76,9 +76,24 @@ INSTANTIATE_TEST_SUITE_P(Drawings, Edit, testing::ValuesIn(SampleNames()),
 TEST(Edit, OfTheIndexTakesATrueColourAway) {
   const Opened opened = Open(DrawingOf("0 POINT\n5 20\n100 AcDbEntity\n8 0\n62 5\n420 255\n430 BOOK$RED\n"
                                        "100 AcDbPoint\n10 1\n20 2\n30 3"));
+  const auto* entity = AcDbEntity::cast(EntityAt(*opened.database, 0).object());
+  EXPECT_EQ(255, entity->trueColor());
   AcDbObjectPointer<AcDbEntity>(EntityAt(*opened.database, 0), AcDb::kForWrite)->setColorIndex(6);
+  EXPECT_EQ(-1, entity->trueColor());
   EXPECT_EQ(EntityAt(*opened.database, 0).object()->record().text().find("420"), std::string::npos);
   EXPECT_EQ(EntityAt(*opened.database, 0).object()->record().text().find("430"), std::string::npos);
+}
+
+TEST(Edit, OfTheIndexAndBackAgainLeavesNoTrueColour) {
+  const Opened opened = Open(DrawingOf("0 POINT\n5 20\n100 AcDbEntity\n8 0\n62 5\n420 255\n440 33554559\n"
+                                       "100 AcDbPoint\n10 1\n20 2\n30 3"));
+  AcDbObjectPointer<AcDbEntity> entity(EntityAt(*opened.database, 0), AcDb::kForWrite);
+  entity->setColorIndex(6);
+  entity->setColorIndex(5);
+  EXPECT_EQ(-1, entity->trueColor());
+  EXPECT_EQ(0x0200007F, entity->transparency());
+  EXPECT_EQ(entity->record().text().find("420"), std::string::npos);
+  EXPECT_NE(entity->record().text().find("440\n33554559\n"), std::string::npos);
 }
 
 TEST(Edit, OfSomethingElseLeavesATrueColourAlone) {
