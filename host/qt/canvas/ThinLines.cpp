@@ -130,7 +130,8 @@ void ThinLines::shade(const Axis& along, const Axis& across, double a0, double c
   if (begin >= end) return;
   const auto c = static_cast<std::int64_t>((acrossAt(begin) - 0.5) * kOne);
   const auto step = static_cast<std::int64_t>(slope * kOne);
-  const auto [low, high] = std::minmax(c, c + step * (end - 1 - begin));
+  const std::int64_t atEnd = c + step * (end - 1 - begin);
+  const auto [low, high] = std::minmax(c, atEnd);
   const bool inside = (low >> kFixedBits) >= across.begin && (high >> kFixedBits) + 1 < across.end;
   inside ? shadeRun<false>(along, across, begin, end, c, step)
          : shadeRun<true>(along, across, begin, end, c, step);
