@@ -144,7 +144,7 @@ struct Moment {
   double processor = seconds(CLOCK_PROCESS_CPUTIME_ID); // of all threads
 };
 
-AcApDocument* open(const CString& file, dxf::EntityWatcher* watcher) {
+AcApDocument* open(const CString& file, EntityWatcher* watcher) {
   dxf::ReadReport report;
   dxf::ReadOptions options;
   options.watcher = watcher;

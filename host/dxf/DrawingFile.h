@@ -10,10 +10,9 @@
 #include <vector>
 
 class AcDbDatabase;
+class EntityWatcher;
 
 namespace dxf {
-
-class EntityWatcher;
 
 // Something in a file that was not as it should be and was mended without losing anything.
 struct Repair {

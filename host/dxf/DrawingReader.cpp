@@ -3,8 +3,8 @@
 #include "host/db/AcDbBlockReference.h"
 #include "host/db/AcDbBlockTable.h"
 #include "host/db/AcDbSymbolTable.h"
+#include "host/db/EntityWatcher.h"
 #include "host/dxf/BlockCycles.h"
-#include "host/dxf/EntityWatcher.h"
 #include "host/dxf/RecordValues.h"
 
 namespace {

@@ -2,8 +2,8 @@
 #include "host/db/AcDbBlockMarks.h"
 #include "host/db/AcDbBlockReference.h"
 #include "host/db/AcDbBlockTable.h"
+#include "host/db/EntityWatcher.h"
 #include "host/dxf/DrawingReader.h"
-#include "host/dxf/EntityWatcher.h"
 #include "host/dxf/RecordValues.h"
 
 namespace {
@@ -11,7 +11,7 @@ namespace {
 // Tells the watcher of entities as they are done, and that it is over whichever way the reading ends.
 class Announcer {
  public:
-  explicit Announcer(dxf::EntityWatcher* watcher) : m_watcher(watcher) {}
+  explicit Announcer(EntityWatcher* watcher) : m_watcher(watcher) {}
   ~Announcer() {
     if (m_watcher) m_watcher->entitiesEnd();
   }
@@ -28,7 +28,7 @@ class Announcer {
   }
 
  private:
-  dxf::EntityWatcher* m_watcher;
+  EntityWatcher* m_watcher;
   std::size_t m_told = 0;
 };
 

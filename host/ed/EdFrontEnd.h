@@ -9,10 +9,7 @@
 
 class AcApDocument;
 class CWnd;
-
-namespace dxf {
 class EntityWatcher;
-}
 
 struct EdMessageBox {
   CString caption;
@@ -58,7 +55,7 @@ class EdFrontEnd {
   // interrupt of the terminal. Asked ahead of each line; what is left of scripts is left out then.
   virtual bool takeInterrupt() { return false; }
   // Is told of the entities of a drawing that is being opened to be shown; null for nobody.
-  virtual dxf::EntityWatcher* entityWatcher() { return nullptr; }
+  virtual EntityWatcher* entityWatcher() { return nullptr; }
   // The document's picture is to be drawn anew.
   virtual void regenerate(AcApDocument&) {}
   // Whatever is still to be drawn is to be drawn before the program goes on.

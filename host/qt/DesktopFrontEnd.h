@@ -20,9 +20,9 @@ class DesktopView {
   // See EdFrontEnd::showProgress.
   virtual bool showTask(const CString& task, double done) = 0;
   virtual void endTask() = 0;
-  virtual dxf::EntityWatcher* entityWatcher() = 0; // see EdFrontEnd
-  virtual void redraw() = 0;                       // the drawing, from the database
-  virtual void redrawOverlay() = 0;                // what is shown over it
+  virtual EntityWatcher* entityWatcher() = 0; // see EdFrontEnd
+  virtual void redraw() = 0;                  // the drawing, from the database
+  virtual void redrawOverlay() = 0;           // what is shown over it
   virtual void viewMoved() = 0;
   virtual std::optional<double> aspect() = 0;
   virtual std::optional<double> pickAperture() = 0;
@@ -44,7 +44,7 @@ class DesktopFrontEnd : public EdFrontEnd {
   void lineRefused(const EdRefusal& refusal) override;
   bool showProgress(const CString& task, double done) override { return m_view.showTask(task, done); }
   void progressEnded() override { m_view.endTask(); }
-  dxf::EntityWatcher* entityWatcher() override { return m_view.entityWatcher(); }
+  EntityWatcher* entityWatcher() override { return m_view.entityWatcher(); }
   void regenerate(AcApDocument&) override { m_view.redraw(); }
   void viewChanged(AcApDocument&) override { m_view.viewMoved(); }
   std::optional<double> viewAspect() override { return m_view.aspect(); }

@@ -27,7 +27,7 @@ struct SceneOptions {
   // Entities that the host has no painter for are asked to draw themselves. Only the thread that edits may do
   // that; without it they are left out, and Scene::asksPlugIns tells that there are some.
   bool asksPlugIns = true;
-  // The drawing is being read and has no objects yet, see dxf::EntityWatcher. What asks for more than that is
+  // The drawing is being read and has no objects yet, see EntityWatcher. What asks for more than that is
   // left out, and Scene::isProvisional tells.
   bool whileReading = false;
   Limits limits;

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "host/db/AcDbDatabaseReactor.h"
-#include "host/dxf/EntityWatcher.h"
+#include "host/db/EntityWatcher.h"
 #include "host/scene/BuildScene.h"
 #include "host/scene/DrawingVariables.h"
 #include "host/scene/ScenePage.h"
@@ -18,7 +18,7 @@ namespace scene {
 
 class SceneBuilder;
 
-class SceneAhead : public dxf::EntityWatcher, private AcDbDatabaseReactor {
+class SceneAhead : public EntityWatcher, private AcDbDatabaseReactor {
  public:
   // Metrics that no other thread uses meanwhile; null for estimated ones.
   explicit SceneAhead(const TextMetrics* metrics = nullptr, std::size_t pageSize = kPageSize);

@@ -23,9 +23,9 @@ class Canvas : public QWidget {
   explicit Canvas(CommandFeed& feed, QWidget* parent = nullptr);
 
   void setDocument(AcApDocument* document);
-  // Whoever opens a drawing that is to be shown here may tell it of the entities as they are read: the picture
-  // is there sooner. May be null.
-  dxf::EntityWatcher* ahead() { return m_picture.ahead(); }
+  // Whoever opens a drawing that is to be shown here may tell it of the entities as they are read: the
+  // picture is there sooner. May be null.
+  EntityWatcher* ahead() { return m_picture.ahead(); }
   void setColors(const CanvasColors& colors);
   // What changed of the drawing is drawn anew; all of it when asked.
   void refresh(bool all = false);

@@ -22,7 +22,7 @@ class DrawingPicture {
   AcApDocument* document() const { return m_document; }
   // Makes the picture of a drawing that is being read, for the document that comes of it; null where no
   // processor is free for that.
-  dxf::EntityWatcher* ahead() { return threads() > 1 ? &m_ahead : nullptr; }
+  EntityWatcher* ahead() { return threads() > 1 ? &m_ahead : nullptr; }
   // All of it is to be made anew.
   void invalidate() { m_scene.invalidate(); }
   // Looks at what changed since the last time.

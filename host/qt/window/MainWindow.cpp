@@ -162,7 +162,7 @@ void MainWindow::viewMoved() {
   m_canvas->viewMoved();
 }
 
-dxf::EntityWatcher* MainWindow::entityWatcher() {
+EntityWatcher* MainWindow::entityWatcher() {
   return m_canvas->ahead();
 }
 

@@ -49,7 +49,7 @@ class MainWindow : public QMainWindow, public DesktopView, private AcApDocManage
   EdBoxResult ask(const EdMessageBox& box) override;
   bool showTask(const CString& task, double done) override;
   void endTask() override;
-  dxf::EntityWatcher* entityWatcher() override;
+  EntityWatcher* entityWatcher() override;
   void redraw() override;
   void redrawOverlay() override;
   void viewMoved() override;

@@ -21,7 +21,7 @@ namespace {
 constexpr std::size_t kPage = 4;
 
 // Reads no further than the picture has come, so that a test is the same each time.
-class Settled : public dxf::EntityWatcher {
+class Settled : public EntityWatcher {
  public:
   explicit Settled(scene::SceneAhead& ahead) : m_ahead(ahead) {}
   std::size_t together() const override { return m_ahead.together(); }

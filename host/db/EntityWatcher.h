@@ -8,8 +8,6 @@
 
 class AcDbBlockTableRecord;
 
-namespace dxf {
-
 class EntityWatcher {
  public:
   virtual ~EntityWatcher() = default;
@@ -26,5 +24,3 @@ class EntityWatcher {
   // Tables, blocks or header come after the entities: what was seen of these may be another now.
   virtual void groundChanged() = 0;
 };
-
-} // namespace dxf
