@@ -76,6 +76,7 @@ void PathPen::append(PathView path) {
 }
 
 void PathPen::bulge(const AcGePoint3d& from, const AcGePoint3d& to, double bulge) {
+  if (bulge == 0) return line(to);
   const auto found = ge::ArcFromBulge({from.x, from.y}, {to.x, to.y}, bulge);
   if (!found) return line(to);
   arc(AcGePoint3d(found->center.x, found->center.y, from.z), AcGeVector3d(found->radius, 0, 0),

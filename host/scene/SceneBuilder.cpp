@@ -20,6 +20,14 @@ bool isReadWhole(const AcDbBlockTableRecord& block) {
   return !block.handle().isNull() && !block.isLayout() && !HasExtensionDictionary(block.record());
 }
 
+// With all that belongs to it.
+bool isNumbered(const AcDbEntity& entity) {
+  const auto& parts = entity.subEntities();
+  return !entity.handle().isNull() && std::none_of(parts.begin(), parts.end(), [](const AcDbObjectId& id) {
+    return id.handle().isNull();
+  });
+}
+
 // Whether the height of a point doesn't matter to where it is in the picture.
 bool isFlat(const AcGeMatrix3d& toScene) {
   return toScene.entry[0][2] == 0 && toScene.entry[1][2] == 0;
@@ -271,8 +279,7 @@ void SceneBuilder::drawEntity(const Frame& frame, const AcDbObjectId& id) {
   const auto* entity = AcDbEntity::cast(id.object());
   if (!entity || entity->isErased() || entity->visibility() == AcDb::kInvisible) return;
   if (++m_entities > m_options.limits.entities) return exhaust(L"图块展开后的实体太多，其后的未画");
-  if (m_options.whileReading && (entity->handle().isNull() || !m_layers.knows(entity->layerId())))
-    return wait();
+  if (m_options.whileReading && !(isNumbered(*entity) && m_layers.knows(entity->layerId()))) return wait();
   const DxfRecord& record = entity->record();
   const std::string_view type = record.type();
   const AcDbObjectId layer = m_looks.layerOf(frame, entity->layerId());

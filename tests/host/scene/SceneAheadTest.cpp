@@ -127,6 +127,24 @@ TEST_F(Ahead, EntitiesWithoutAHandleWaitForTheirs) {
               std::string(id.object()->record().text()).find(id.handle().toHex())); // and not zero
 }
 
+TEST_F(Ahead, VerticesWithoutAHandleWaitForTheirs) {
+  std::string polyline = "0 POLYLINE|5 50|100 AcDbEntity|8 甲|66 1|100 AcDb2dPolyline|10 0|20 0|30 0";
+  for (int i = 0; i < 3; ++i)
+    polyline +=
+        "|0 VERTEX|100 AcDbEntity|8 甲|100 AcDbVertex|100 AcDb2dVertex|10 " + std::to_string(i) + "|20 0";
+  polyline += "|0 SEQEND|5 51|100 AcDbEntity|8 甲";
+  read(Parts{.entities = polyline + "|" + Lines(8, "甲", 0x300), .layers = kLayers});
+  expectSame();
+  EXPECT_EQ(2u, left()); // that with it in it, and the last
+  const auto& model = *AcDbBlockTableRecord::cast(database->modelSpaceId().object());
+  const auto* entity = AcDbEntity::cast(model.entities().front().object());
+  ASSERT_EQ(4u, entity->subEntities().size());
+  for (const AcDbObjectId& id : entity->subEntities()) {
+    EXPECT_FALSE(id.handle().isNull());
+    EXPECT_NE(std::string::npos, std::string(id.object()->record().text()).find("5\n" + id.handle().toHex()));
+  }
+}
+
 TEST_F(Ahead, AnInsertionThatMayBeClippedWaitsForItsDictionary) {
   const std::string block = "0 BLOCK|5 20|100 AcDbEntity|8 0|100 AcDbBlockBegin|2 样|70 0|10 0|20 0|3 样|" +
                             Lines(3, "0", 0x30) + "|0 ENDBLK|5 21|100 AcDbEntity|8 0|100 AcDbBlockEnd";
