@@ -381,8 +381,8 @@ TEST_F(RadiatorCalculation, TakesLoadAndTemperatureOfAPickedRoomAndCalculates) {
 
 TEST_F(RadiatorCalculation, StepsAsideWhileTheRoomIsPicked) {
   AddCalculatedRoom(1000, 20);
+  bool visible = true;
   In([&](Dlg& dialog) {
-    bool visible = true;
     dialog.Changed.Connect([&](const UiChange&) { visible = visible && dialog.IsWindowVisible(); });
     PickRoom(dialog, L"0,1000");
     EXPECT_FALSE(visible);
