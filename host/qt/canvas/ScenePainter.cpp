@@ -140,15 +140,14 @@ bool ScenePainter::isFar(scene::PathView path) const {
 
 // Straight lines along the axes are sharp only without smoothing.
 bool ScenePainter::isUpright(scene::PathView path) const {
-  if (std::any_of(path.verbs.begin(), path.verbs.end(), [](scene::Verb verb) {
-        return verb == scene::Verb::curve || verb == scene::Verb::curveOn;
-      }))
-    return false;
+  const double least = 0.3 * m_map.unitsPerPixel;
   for (std::size_t i = 1; i < path.points.size(); ++i) {
-    const QPointF by = m_map.toScreen(path.points[i]) - m_map.toScreen(path.points[i - 1]);
-    if (std::fabs(by.x()) > 0.3 && std::fabs(by.y()) > 0.3) return false;
+    const AcGeVector2d by = path.points[i] - path.points[i - 1];
+    if (std::fabs(by.x) > least && std::fabs(by.y) > least) return false;
   }
-  return true;
+  return std::none_of(path.verbs.begin(), path.verbs.end(), [](scene::Verb verb) {
+    return verb == scene::Verb::curve || verb == scene::Verb::curveOn;
+  });
 }
 
 QPainterPath ScenePainter::onScreen(scene::PathView path) const {
