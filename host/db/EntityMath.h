@@ -33,8 +33,8 @@ double sweep(double start, double end);
 AcGePoint3d onCircle(const AcGePoint3d& objectCentre, const AcGeVector3d& normal, double radius,
                      double angle);
 
-// Reads the three tags of a vector that begins at code; others are passed over. The vector stays as it was
-// where it would become zero.
+// Reads the three tags of a vector that begins at code; others are passed over. It may come out as zero,
+// for which ge::ArbitraryAxis has the world's axes.
 void readVector(const DxfTag& tag, int code, AcGeVector3d& vector, const DxfDecodeContext& context);
 
 // The tags that are an entity's own geometry: behind the common properties, no 102 groups, no extended data.

@@ -124,13 +124,6 @@ Scene SceneBuilder::finish() {
   m_scene.leftOut = m_leftOut.sentences();
   Scene made = std::move(m_scene);
   begin();
-  // The next one is likely to be of the same size.
-  const auto room = [](std::size_t size) { return size + size / 8; };
-  m_scene.verbs.reserve(room(made.verbs.size()));
-  m_scene.points.reserve(room(made.points.size()));
-  m_scene.primitives.reserve(room(made.primitives.size()));
-  m_scene.texts.reserve(room(made.texts.size()));
-  m_scene.groups.reserve(room(made.groups.size()));
   return made;
 }
 

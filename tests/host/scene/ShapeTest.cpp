@@ -192,3 +192,24 @@ TEST(Shape, ALeaderHasAnArrowAtItsFirstPoint) {
   EXPECT_DOUBLE_EQ(0, arrow[0].x);
   EXPECT_GT(arrow[1].x, 0);
 }
+
+// The line leaves the block's plane, which shows only where the block is tilted.
+TEST(Shape, OfABlockIsDrawnFlatTiltedAndScaledInOnePicture) {
+  const Picture picture(
+      Parts{.entities =
+                "0 INSERT|8 0|2 B|10 0|20 0|0 INSERT|8 0|2 B|10 0|20 0|30 7|210 1|220 0|230 0|"
+                "0 INSERT|8 0|2 B|10 100|20 0|41 2|42 2|43 2|0 INSERT|8 0|2 B|10 50|20 0|210 0|220 0|230 -1",
+            .blocks = "0 BLOCK|2 B|10 0|20 0|0 LINE|8 0|10 0|20 0|30 0|11 3|21 4|31 5|0 ENDBLK"});
+  const auto& groups = picture.scene.groups;
+  ASSERT_EQ(4u, groups.size());
+  const auto expectBox = [&](std::size_t i, double minX, double minY, double maxX, double maxY) {
+    EXPECT_NEAR(minX, groups[i].box.minX, 1e-9) << i;
+    EXPECT_NEAR(minY, groups[i].box.minY, 1e-9) << i;
+    EXPECT_NEAR(maxX, groups[i].box.maxX, 1e-9) << i;
+    EXPECT_NEAR(maxY, groups[i].box.maxY, 1e-9) << i;
+  };
+  expectBox(0, 0, 0, 3, 4);
+  expectBox(1, 7, 0, 12, 3); // the block's x runs along y, its height along x
+  expectBox(2, 100, 0, 106, 8);
+  expectBox(3, -53, 0, -50, 4); // seen from behind
+}
