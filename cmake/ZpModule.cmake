@@ -5,6 +5,8 @@ set(ZP_WARNINGS -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloade
 if(ZP_WERROR)
   list(APPEND ZP_WARNINGS -Werror)
 endif()
+# Nobody puts a function of their own in the place of one of ours, so a library may take its own ones into one another.
+set(ZP_OWN_FUNCTIONS -fno-semantic-interposition)
 set(ZP_SANITIZERS "")
 if(ZP_SANITIZE)
   set(ZP_SANITIZERS -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
@@ -23,7 +25,7 @@ endfunction()
 # The flags and include root that everything of ours is compiled with.
 function(zp_common target)
   target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}>)
-  target_compile_options(${target} PRIVATE ${ZP_WARNINGS} ${ZP_SANITIZERS})
+  target_compile_options(${target} PRIVATE ${ZP_WARNINGS} ${ZP_SANITIZERS} ${ZP_OWN_FUNCTIONS})
   target_link_options(${target} PRIVATE ${ZP_SANITIZERS})
 endfunction()
 

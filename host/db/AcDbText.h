@@ -29,6 +29,9 @@ class AcDbText : public AcDbEntity {
   AcGeVector3d normal() const { return m_normal; }
   // The second point of aligned text, which is where it hangs; nothing for text that begins at its position.
   std::optional<AcGePoint3d> alignmentPoint() const; // world
+  // The same two in the system of the normal, as the drawing has them.
+  const AcGePoint3d& ownPosition() const { return m_position; }
+  const std::optional<AcGePoint3d>& ownAlignmentPoint() const { return m_alignment; }
   AcDbObjectId textStyle() const { return m_style; }
   Acad::ErrorStatus setTextStyle(const AcDbObjectId& style);
   void worldDraw(AcGiWorldDraw& draw) const override;

@@ -5,17 +5,6 @@
 #include <algorithm>
 #include <cmath>
 
-namespace {
-
-void grow(ge::Box2d& box, double by) {
-  box.minX -= by;
-  box.minY -= by;
-  box.maxX += by;
-  box.maxY += by;
-}
-
-} // namespace
-
 ge::Box2d entity::planBox(const ge::Curve& curve) {
   ge::Box2d box;
   if (curve.Status() != ge::CurveStatus::kOk) return box;
@@ -30,12 +19,11 @@ ge::Box2d entity::planBox(const ge::Curve& curve) {
       ge::Box2d piece;
       piece.Add(AcGePoint2d(start.x, start.y));
       piece.Add(AcGePoint2d(end.x, end.y));
-      if (curve.Pieces()[i].isArc) grow(piece, 2 * curve.Pieces()[i].arc.radius);
+      if (curve.Pieces()[i].isArc) piece = piece.Grown(2 * curve.Pieces()[i].arc.radius);
       box.Add(piece);
     }
   }
-  if (!box.IsEmpty()) grow(box, curve.Tolerance());
-  return box;
+  return box.Grown(curve.Tolerance());
 }
 
 std::vector<entity::CurveCrossing> entity::allCrossings(std::span<const ge::Curve> curves) {

@@ -24,14 +24,6 @@ struct Found {
 // Up to so many pairs of pieces comparing all boxes is quicker than sorting them.
 constexpr std::size_t kFewPairs = 64;
 
-Box2d Grown(Box2d box, double by) {
-  box.minX -= by;
-  box.minY -= by;
-  box.maxX += by;
-  box.maxY += by;
-  return box;
-}
-
 class CurvePair {
  public:
   CurvePair(const Curve& first, const Curve& second, ExtendCurves extend)
@@ -123,7 +115,7 @@ void CurvePair::VisitCommonPlane() {
     const ReachedPiece reached = Reached(curve, i, extended, pieces);
     const double infinity = std::numeric_limits<double>::infinity();
     if (reached.openStart || reached.openEnd) return Box2d{-infinity, -infinity, infinity, infinity};
-    return Grown(pieces[i].box, m_tolerance);
+    return pieces[i].box.Grown(m_tolerance);
   };
   const auto boxesOf = [&](const Curve& curve, bool extended, std::span<const CurvePiece> pieces) {
     std::vector<PieceBox> boxes;
@@ -152,7 +144,7 @@ void CurvePair::VisitFewPieces() {
     return a.minX <= b.maxX && b.minX <= a.maxX && a.minY <= b.maxY && b.minY <= a.maxY;
   };
   for (std::size_t i = 0; i < m_plane.first.size(); ++i) {
-    const Box2d box = Grown(m_plane.first[i].box, 2.0 * m_tolerance);
+    const Box2d box = m_plane.first[i].box.Grown(2.0 * m_tolerance);
     for (std::size_t j = 0; j < m_plane.second.size(); ++j) {
       if (overlap(box, m_plane.second[j].box)) VisitPair(i, j);
     }
@@ -216,7 +208,7 @@ void CurvePair::DropDuplicates() {
 
 bool CurvePair::AreClearlyApart() const {
   if (m_firstExtended || m_secondExtended || !m_first.Frame().SharesAxes(m_second.Frame())) return false;
-  return !Grown(m_first.Box(), m_tolerance).Overlaps(m_second.Box());
+  return !m_first.Box().Grown(m_tolerance).Overlaps(m_second.Box());
 }
 
 CurveIntersections CurvePair::Solve() {

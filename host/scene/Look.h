@@ -16,6 +16,7 @@ struct Look {
   double linetypeScale = 1; // the entity's own
   int weight = 25;          // hundredths of a millimetre
   bool hidden = false;      // nothing of its own is to be seen
+  bool operator==(const Look&) const = default;
 };
 
 // Where entities are drawn: in the space itself, in a block, or through a viewport.

@@ -11,6 +11,7 @@ struct Row {
   std::string_view name;
   void (*draw)(Pen& pen);
   Reach reach = Reach::drawing;
+  Hides hides = Hides::all;
 };
 
 constexpr Row kRows[] = {
@@ -26,7 +27,7 @@ constexpr Row kRows[] = {
     {"HATCH", painters::Hatch, Reach::entities},
     {"HELIX", painters::Spline},
     {"IMAGE", painters::Image},
-    {"INSERT", painters::Insert, Reach::entities},
+    {"INSERT", painters::Insert, Reach::entities, Hides::frozen},
     {"LARGE_RADIAL_DIMENSION", painters::Dimension},
     {"LEADER", painters::Leader},
     {"LINE", painters::Line, Reach::shape},
@@ -44,8 +45,8 @@ constexpr Row kRows[] = {
     {"TEXT", painters::Text, Reach::entities},
     {"TOLERANCE", painters::Tolerance},
     {"TRACE", painters::Solid, Reach::entities},
-    {"VERTEX", painters::Nothing, Reach::entities}, // drawn by its polyline
-    {"VIEWPORT", painters::Viewport},
+    {"VERTEX", painters::Nothing, Reach::entities},                   // drawn by its polyline
+    {"VIEWPORT", painters::Viewport, Reach::drawing, Hides::nothing}, // but its border
     {"WIPEOUT", painters::Wipeout},
     {"XLINE", painters::XLine, Reach::entities},
 };
@@ -55,7 +56,7 @@ constexpr Row kRows[] = {
 Painter PainterOf(std::string_view dxfName) {
   static const auto table = [] {
     std::unordered_map<std::string_view, Painter> rows;
-    for (const Row& row : kRows) rows.emplace(row.name, Painter{row.draw, row.reach});
+    for (const Row& row : kRows) rows.emplace(row.name, Painter{row.draw, row.reach, row.hides});
     return rows;
   }();
   const auto found = table.find(dxfName);

@@ -14,9 +14,17 @@ enum class Reach {
   shape     // its entity alone, of which it draws nothing but paths, the same ones wherever it stands
 };
 
+// What isn't drawn of it on a layer that is switched off or frozen.
+enum class Hides {
+  all,
+  frozen, // contents on layers of their own stay when the layer is only off
+  nothing // the painter looks for itself
+};
+
 struct Painter {
   void (*draw)(Pen& pen) = nullptr; // null for a kind that has none
   Reach reach = Reach::drawing;
+  Hides hides = Hides::all;
 };
 
 Painter PainterOf(std::string_view dxfName);

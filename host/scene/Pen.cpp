@@ -56,7 +56,7 @@ void Pen::stroke(PathPen& path, const StrokeOptions& options) {
   primitive.kind = Primitive::Kind::stroke;
   primitive.color = m_look.color;
   primitive.weight = static_cast<std::int16_t>(m_look.weight);
-  primitive.clip = m_frame.clip;
+  primitive.clip = m_clip;
   if (options.width > 0) primitive.width = options.width * lengthScale(path.matrix());
   if (!options.solid)
     primitive.pattern = m_builder.pattern(m_look, m_frame.linetypeLength, !options.throughVertices);
@@ -74,7 +74,7 @@ void Pen::fill(PathPen& path, std::optional<Color> color) {
   Primitive primitive;
   primitive.kind = Primitive::Kind::fill;
   primitive.color = color.value_or(m_look.color);
-  primitive.clip = m_frame.clip;
+  primitive.clip = m_clip;
   m_builder.add(primitive, path.view());
 }
 
@@ -107,7 +107,7 @@ void Pen::text(std::wstring text, const Font& font, const AcGeMatrix3d& toSpace,
   Primitive primitive;
   primitive.kind = Primitive::Kind::text;
   primitive.color = color.value_or(m_look.color);
-  primitive.clip = m_frame.clip;
+  primitive.clip = m_clip;
   m_builder.addText(primitive, std::move(run));
 }
 
@@ -119,7 +119,7 @@ void Pen::point(const AcGePoint3d& at) {
   primitive.kind = Primitive::Kind::point;
   primitive.color = m_look.color;
   primitive.weight = static_cast<std::int16_t>(m_look.weight);
-  primitive.clip = m_frame.clip;
+  primitive.clip = m_clip;
   m_builder.add(primitive, path.view());
 }
 
@@ -133,26 +133,25 @@ void Pen::infiniteLine(const AcGePoint3d& from, const AcGePoint3d& through, bool
   primitive.kind = isRay ? Primitive::Kind::ray : Primitive::Kind::xline;
   primitive.color = m_look.color;
   primitive.weight = static_cast<std::int16_t>(m_look.weight);
-  primitive.clip = m_frame.clip;
+  primitive.clip = m_clip;
   primitive.pattern = m_builder.pattern(m_look, m_frame.linetypeLength, true);
   m_builder.add(primitive, path.view());
 }
 
 void Pen::block(const AcDbObjectId& block, const AcGeMatrix3d& toSpace) {
-  m_builder.drawBlock(m_frame, m_look, m_entity, block, toSpace);
+  m_builder.drawBlock(m_frame, m_clip, m_look, m_entity, block, toSpace);
 }
 
 void Pen::subEntity(const AcDbObjectId& id) {
-  m_builder.drawPart(m_frame, m_look, m_entity, id);
+  m_builder.drawPart(m_frame, m_clip, m_look, m_entity, id);
 }
 
 void Pen::clip(PathPen& path) {
-  if (!path.isEmpty() && !path.isBroken())
-    m_frame.clip = m_builder.addClip(std::move(path.path()), m_frame.clip);
+  if (!path.isEmpty() && !path.isBroken()) m_clip = m_builder.addClip(std::move(path.path()), m_clip);
 }
 
 void Pen::nested(const AcDbObjectId& id, const AcGeMatrix3d& toSpace) {
-  m_builder.drawNested(m_frame, m_look, m_entity, id, toSpace);
+  m_builder.drawNested(m_frame, m_clip, m_look, m_entity, id, toSpace);
 }
 
 bool Pen::takeTraits(const AcGiSubEntityTraits& own, const AcGiSubEntityTraits& now) {

@@ -21,12 +21,15 @@ class SceneBuilder;
 
 class Pen {
  public:
+  // All but the look must outlive the pen.
   Pen(SceneBuilder& builder, const Frame& frame, const AcDbEntity& entity, const EntityTags& tags, Look look)
-      : m_builder(builder), m_frame(frame), m_entity(entity), m_tags(tags), m_look(std::move(look)) {}
+      : m_builder(builder), m_frame(frame), m_entity(entity), m_tags(tags), m_look(std::move(look)),
+        m_clip(frame.clip) {}
 
   const AcDbEntity& entity() const { return m_entity; }
   const EntityTags& tags() const { return m_tags; }
   const Frame& frame() const { return m_frame; }
+  std::int32_t clip() const { return m_clip; }
   const Look& look() const { return m_look; }
   AcDbDatabase& database() const;
   const DrawingVariables& variables() const;
@@ -77,10 +80,11 @@ class Pen {
 
  private:
   SceneBuilder& m_builder;
-  Frame m_frame;
+  const Frame& m_frame;
   const AcDbEntity& m_entity;
   const EntityTags& m_tags;
   Look m_look;
+  std::int32_t m_clip;
   Shape* m_record = nullptr;
 };
 

@@ -1,8 +1,10 @@
 #include "host/scene/SceneBuilder.h"
 
+#include "host/db/AcDbAttribute.h"
 #include "host/db/AcDbBlockTable.h"
 #include "host/db/AcDbDatabase.h"
 #include "host/db/AcDbEntity.h"
+#include "host/db/AcRxClass.h"
 #include "host/scene/Painter.h"
 #include "host/scene/Pen.h"
 #include "host/scene/WorldDrawPen.h"
@@ -14,6 +16,7 @@ namespace scene {
 namespace {
 
 const EstimatedMetrics kEstimated;
+constexpr const wchar_t* kTooMany = L"图块展开后的实体太多，其后的未画";
 
 // Whether a block is all there before the objects of the drawing are read.
 bool isReadWhole(const AcDbBlockTableRecord& block) {
@@ -31,6 +34,12 @@ bool isNumbered(const AcDbEntity& entity) {
 // Whether the height of a point doesn't matter to where it is in the picture.
 bool isFlat(const AcGeMatrix3d& toScene) {
   return toScene.entry[0][2] == 0 && toScene.entry[1][2] == 0;
+}
+
+// In an insertion its attributes stand for it.
+bool isLeftToAttributes(const AcDbEntity& entity) {
+  const auto* definition = AcDbAttributeDefinition::cast(&entity);
+  return definition && !definition->isConstant();
 }
 
 } // namespace
@@ -169,7 +178,7 @@ bool SceneBuilder::add(Primitive primitive, PathView path) {
   }
   ge::Box2d box = BoxOf(path);
   const double half = primitive.width / 2;
-  if (half > 0) box = {box.minX - half, box.minY - half, box.maxX + half, box.maxY + half};
+  if (half > 0) box = box.Grown(half);
   if (primitive.clip != Primitive::kNone) {
     const ge::Box2d clip = BoxOf(m_scene.clips[static_cast<std::size_t>(primitive.clip)].path.view());
     box = {std::max(box.minX, clip.minX), std::max(box.minY, clip.minY), std::min(box.maxX, clip.maxX),
@@ -191,8 +200,9 @@ bool SceneBuilder::addText(Primitive primitive, TextRun run) {
   return true;
 }
 
-void SceneBuilder::drawBlock(const Frame& outer, const Look& look, const AcDbEntity& insertion,
-                             const AcDbObjectId& block, const AcGeMatrix3d& toSpace) {
+void SceneBuilder::drawBlock(const Frame& outer, std::int32_t clip, const Look& look,
+                             const AcDbEntity& insertion, const AcDbObjectId& block,
+                             const AcGeMatrix3d& toSpace) {
   const auto* record = AcDbBlockTableRecord::cast(block.object());
   if (!record || record->isErased()) return leaveOut(L"没有图块定义", insertion);
   if (std::find(m_open.begin(), m_open.end(), block) != m_open.end())
@@ -205,19 +215,61 @@ void SceneBuilder::drawBlock(const Frame& outer, const Look& look, const AcDbEnt
     m_drawing = &drawingOf(*record);
     contents = AcDbBlockTableRecord::cast(referenced->modelSpaceId().object());
   }
-  const Frame inner = blockFrame(outer, look, insertion, toSpace);
+  const Frame inner = blockFrame(outer, clip, look, insertion, toSpace);
   m_open.push_back(block);
-  for (const AcDbObjectId& id : m_order.of(*contents)) {
-    if (m_exhausted) break;
-    drawEntity(inner, id);
-  }
+  BlockShapes* const outerBlock = m_learnt;
+  // Which layers a viewport freezes nobody else knows.
+  m_learnt = inner.frozen ? nullptr : &m_blockShapes[{block, inner.byBlock, inner.layer}];
+  if (m_learnt && m_learnt->state == BlockShapes::State::whole && isFlat(inner.toScene))
+    drawShapes(inner, *m_learnt);
+  else
+    drawContents(inner, *contents);
+  m_learnt = outerBlock;
   m_open.pop_back();
   m_drawing = outside;
 }
 
-Frame SceneBuilder::blockFrame(const Frame& outer, const Look& look, const AcDbEntity& insertion,
-                               const AcGeMatrix3d& toSpace) const {
-  Frame inner = outer;
+void SceneBuilder::drawContents(const Frame& frame, const AcDbBlockTableRecord& contents) {
+  const bool isNew = m_learnt && m_learnt->state == BlockShapes::State::unknown;
+  if (isNew)
+    m_learnt->state = BlockShapes::State::whole;
+  else
+    m_learnt = nullptr;
+  for (const AcDbObjectId& id : m_order.of(contents)) {
+    if (m_exhausted) break;
+    drawEntity(frame, id);
+  }
+  if (!isNew) return;
+  if (m_exhausted) m_learnt->state = BlockShapes::State::mixed;
+  if (m_learnt->state == BlockShapes::State::mixed) m_learnt->parts.clear();
+}
+
+void SceneBuilder::drawShapes(const Frame& frame, const BlockShapes& shapes) {
+  for (const BlockShapes::Part& part : shapes.parts) {
+    if (m_exhausted) return;
+    if (++m_entities > m_options.limits.entities) return exhaust(kTooMany);
+    Pen(*this, frame, *part.entity, part.drawn->tags, part.look).draw(*part.drawn->shape);
+  }
+}
+
+void SceneBuilder::wait() {
+  m_scene.isProvisional = true;
+  if (m_learnt) m_learnt->state = BlockShapes::State::mixed;
+}
+
+void SceneBuilder::noteDrawn(const AcDbEntity& entity, const BlockEntity* shape, const Look& look) {
+  if (!m_learnt) return;
+  if (shape)
+    m_learnt->parts.push_back({&entity, shape, look});
+  else
+    m_learnt->state = BlockShapes::State::mixed;
+}
+
+Frame SceneBuilder::blockFrame(const Frame& outer, std::int32_t clip, const Look& look,
+                               const AcDbEntity& insertion, const AcGeMatrix3d& toSpace) const {
+  Frame inner;
+  inner.clip = clip;
+  inner.frozen = outer.frozen;
   inner.toScene = outer.toScene * toSpace;
   inner.inBlock = true;
   inner.byBlock = look;
@@ -237,62 +289,74 @@ const DrawingLooks& SceneBuilder::drawingOf(const AcDbBlockTableRecord& block) {
   return *looks;
 }
 
-void SceneBuilder::drawNested(const Frame& outer, const Look& look, const AcDbEntity& whole,
-                              const AcDbObjectId& nested, const AcGeMatrix3d& toSpace) {
+void SceneBuilder::drawNested(const Frame& outer, std::int32_t clip, const Look& look,
+                              const AcDbEntity& whole, const AcDbObjectId& nested,
+                              const AcGeMatrix3d& toSpace) {
   if (outer.depth >= m_options.limits.depth) return leaveOut(L"图块嵌套太深", whole);
-  drawEntity(blockFrame(outer, look, whole, toSpace), nested);
+  drawEntity(blockFrame(outer, clip, look, whole, toSpace), nested);
 }
 
-void SceneBuilder::drawPart(const Frame& outer, const Look& look, const AcDbEntity& whole,
+void SceneBuilder::drawPart(const Frame& outer, std::int32_t clip, const Look& look, const AcDbEntity& whole,
                             const AcDbObjectId& part) {
   Frame frame = outer;
+  frame.clip = clip;
   frame.inBlock = true;
   frame.byBlock = look;
   frame.layer = m_looks.layerOf(outer, whole.layerId());
   drawEntity(frame, part);
 }
 
-SceneBuilder::Kept& SceneBuilder::keep(const AcDbEntity& entity, std::string_view type) {
-  const auto [at, isNew] = m_kept.try_emplace(entity.objectId());
-  if (isNew) at->second = {EntityTags(entity.record()), PainterOf(type), nullptr};
+// By the class where it knows the name of its records: the record itself is seldom needed.
+Painter SceneBuilder::painterOf(const AcDbEntity& entity) {
+  const AcRxClass* type = entity.isA();
+  if (!*type->dxfName()) return PainterOf(entity.record().type());
+  const auto [at, isNew] = m_painters.try_emplace(type);
+  if (isNew) at->second = PainterOf(type->dxfName());
   return at->second;
 }
 
-void SceneBuilder::drawShape(Pen& pen, Kept& kept) {
+BlockEntity& SceneBuilder::keep(const AcDbEntity& entity) {
+  const auto [at, isNew] = m_kept.try_emplace(entity.objectId());
+  if (isNew) at->second = {EntityTags(entity.record()), painterOf(entity), nullptr};
+  return at->second;
+}
+
+void SceneBuilder::drawShape(Pen& pen, BlockEntity& kept) {
   if (!kept.shape) {
     kept.shape = std::make_unique<Shape>();
-    Pen recording(*this, Frame(), pen.entity(), kept.tags, pen.look());
+    const Frame own;
+    Pen recording(*this, own, pen.entity(), kept.tags, pen.look());
     recording.recordIn(*kept.shape);
     kept.painter.draw(recording);
   }
+  noteDrawn(pen.entity(), kept.shape->isWhole ? &kept : nullptr, pen.look());
   kept.shape->isWhole ? pen.draw(*kept.shape) : kept.painter.draw(pen);
 }
 
 void SceneBuilder::drawEntity(const Frame& frame, const AcDbObjectId& id) {
   const auto* entity = AcDbEntity::cast(id.object());
   if (!entity || entity->isErased() || entity->visibility() == AcDb::kInvisible) return;
-  if (++m_entities > m_options.limits.entities) return exhaust(L"图块展开后的实体太多，其后的未画");
+  if (++m_entities > m_options.limits.entities) return exhaust(kTooMany);
   if (m_options.whileReading && !(isNumbered(*entity) && m_layers.knows(entity->layerId()))) return wait();
-  const DxfRecord& record = entity->record();
-  const std::string_view type = record.type();
+  BlockEntity* kept = frame.depth > 0 ? &keep(*entity) : nullptr;
+  const Painter painter = kept ? kept->painter : painterOf(*entity);
   const AcDbObjectId layer = m_looks.layerOf(frame, entity->layerId());
-  const bool hidden = m_looks.isHidden(frame, layer, type == "INSERT");
-  if (hidden && type != "VIEWPORT") return; // whose border alone hides with its layer
-  Kept* kept = frame.depth > 0 ? &keep(*entity, type) : nullptr;
-  const EntityTags own = kept ? EntityTags() : EntityTags(record);
+  const bool hidden = m_looks.isHidden(frame, layer, painter.hides == Hides::frozen);
+  if (hidden && painter.hides != Hides::nothing) return;
+  const EntityTags own = kept ? EntityTags() : EntityTags(entity->record());
   const EntityTags& tags = kept ? kept->tags : own;
   Look look = m_looks.lookOf(frame, *entity, layer);
   look.hidden = hidden;
   Pen pen(*this, frame, *entity, tags, look);
-  const Painter painter = kept ? kept->painter : PainterOf(type);
   if (m_options.whileReading && painter.draw && painter.reach == Reach::drawing) return wait();
   if (kept && painter.reach == Reach::shape && isFlat(frame.toScene)) return drawShape(pen, *kept);
+  if (!isLeftToAttributes(*entity)) noteDrawn(*entity, nullptr, look);
   if (painter.draw) return painter.draw(pen);
   m_scene.asksPlugIns = true;
   if (!m_options.asksPlugIns) return;
   WorldDrawPen draw(pen);
   draw.entity();
-  if (draw.isEmpty()) leaveOut(CString::FromUtf8(type) + L" 未画", *entity);
+  if (draw.isEmpty()) leaveOut(entity->dxfName() + L" 未画", *entity);
 }
 
 Scene BuildScene(AcDbDatabase& database, const AcDbObjectId& space, const SceneOptions& options) {

@@ -1,22 +1,19 @@
 // The work behind BuildScene: resolves looks, goes through blocks, calls painters, and counts what it costs.
 #pragma once
 
+#include "host/scene/BlockShapes.h"
 #include "host/scene/BuildScene.h"
 #include "host/scene/DrawOrder.h"
 #include "host/scene/DrawingLooks.h"
-#include "host/scene/EntityTags.h"
 #include "host/scene/LayerLooks.h"
 #include "host/scene/LeftOut.h"
 #include "host/scene/LinetypePatterns.h"
 #include "host/scene/LookRules.h"
-#include "host/scene/Painter.h"
-#include "host/scene/Shape.h"
 
-#include <memory>
 #include <unordered_map>
 
 class AcDbBlockTableRecord;
-class AcDbEntity;
+class AcRxClass;
 
 namespace scene {
 
@@ -49,32 +46,32 @@ class SceneBuilder {
   // entity of the space that shows it.
   void leaveOut(const CString& what, const AcDbEntity& entity);
   // Something of the drawing that is being read isn't there yet.
-  void wait() { m_scene.isProvisional = true; }
+  void wait();
   std::int32_t addClip(Path path, std::int32_t within);
   std::int32_t pattern(const Look& look, double linetypeLength, bool bySegment);
   // False when there is no room left.
   bool add(Primitive primitive, PathView path);
   bool addText(Primitive primitive, TextRun run);
-  void drawBlock(const Frame& outer, const Look& look, const AcDbEntity& insertion, const AcDbObjectId& block,
-                 const AcGeMatrix3d& toSpace);
+  void drawBlock(const Frame& outer, std::int32_t clip, const Look& look, const AcDbEntity& insertion,
+                 const AcDbObjectId& block, const AcGeMatrix3d& toSpace);
   // An entity that belongs to another and follows its layer as the contents of a block do.
-  void drawPart(const Frame& outer, const Look& look, const AcDbEntity& whole, const AcDbObjectId& part);
+  void drawPart(const Frame& outer, std::int32_t clip, const Look& look, const AcDbEntity& whole,
+                const AcDbObjectId& part);
   // The same of any entity, through a matrix.
-  void drawNested(const Frame& outer, const Look& look, const AcDbEntity& whole, const AcDbObjectId& nested,
-                  const AcGeMatrix3d& toSpace);
+  void drawNested(const Frame& outer, std::int32_t clip, const Look& look, const AcDbEntity& whole,
+                  const AcDbObjectId& nested, const AcGeMatrix3d& toSpace);
   void drawEntity(const Frame& frame, const AcDbObjectId& id);
   bool isExhausted() const { return m_exhausted; }
 
  private:
-  // An entity of a block, which comes again with the next insertion.
-  struct Kept {
-    EntityTags tags;
-    Painter painter;
-    std::unique_ptr<Shape> shape; // null before it is drawn
-  };
-  Kept& keep(const AcDbEntity& entity, std::string_view type);
-  void drawShape(Pen& pen, Kept& kept);
-  Frame blockFrame(const Frame& outer, const Look& look, const AcDbEntity& insertion,
+  Painter painterOf(const AcDbEntity& entity);
+  BlockEntity& keep(const AcDbEntity& entity);
+  void drawShape(Pen& pen, BlockEntity& kept);
+  void drawContents(const Frame& frame, const AcDbBlockTableRecord& contents);
+  void drawShapes(const Frame& frame, const BlockShapes& shapes);
+  // Tells the block that is being drawn of an entity in it: null for one that is not of shapes.
+  void noteDrawn(const AcDbEntity& entity, const BlockEntity* shape, const Look& look);
+  Frame blockFrame(const Frame& outer, std::int32_t clip, const Look& look, const AcDbEntity& insertion,
                    const AcGeMatrix3d& toSpace) const;
   const DrawingLooks& drawingOf(const AcDbBlockTableRecord& block);
   // How far the scene was filled, to take back what was added since.
@@ -100,7 +97,10 @@ class SceneBuilder {
   const TextMetrics* m_metrics;
   Scene m_scene;
   Group m_group;
-  std::unordered_map<AcDbObjectId, Kept> m_kept;
+  std::unordered_map<const AcRxClass*, Painter> m_painters;
+  std::unordered_map<AcDbObjectId, BlockEntity> m_kept;
+  std::unordered_map<BlockUse, BlockShapes, BlockUse::Hash> m_blockShapes;
+  BlockShapes* m_learnt = nullptr;  // of the block that is being drawn, where it isn't known yet
   std::vector<AcDbObjectId> m_open; // blocks that are being drawn
   std::size_t m_entities = 0;
   bool m_exhausted = false;

@@ -24,13 +24,19 @@ bool narrow(double from, double by, double low, double high, double& begin, doub
   return begin <= end;
 }
 
+// Of a coordinate in the window or near it. The library's is a call where the processor may be an old one.
+int Floor(double value) {
+  const int cut = static_cast<int>(value);
+  return cut - (value < cut);
+}
+
 } // namespace
 
 ThinLines::ThinLines(QImage& image, const QRect& area)
-    : m_pixels(reinterpret_cast<std::uint32_t*>(image.bits())), m_x{1, std::max(area.left(), 0),
-                                                                    std::min(area.right() + 1,
-                                                                             image.width())},
-      m_y{image.bytesPerLine() / 4, std::max(area.top(), 0), std::min(area.bottom() + 1, image.height())} {}
+    : m_pixels(reinterpret_cast<std::uint32_t*>(image.bits())),
+      m_axes{
+          {1, std::max(area.left(), 0), std::min(area.right() + 1, image.width())},
+          {image.bytesPerLine() / 4, std::max(area.top(), 0), std::min(area.bottom() + 1, image.height())}} {}
 
 void ThinLines::setColor(const QColor& color) {
   m_color = Spread(color.rgb());
@@ -42,35 +48,36 @@ bool ThinLines::cut(const AcGePoint2d& from, const AcGePoint2d& to, double& begi
   end = 1;
   if (isNear(from) && isNear(to)) return true;
   // A pixel more on each side: what is shaded there may reach into the area.
-  return narrow(from.x, to.x - from.x, m_x.begin - 1.0, m_x.end + 1.0, begin, end) &&
-         narrow(from.y, to.y - from.y, m_y.begin - 1.0, m_y.end + 1.0, begin, end);
+  const auto& [x, y] = m_axes;
+  return narrow(from.x, to.x - from.x, x.begin - 1.0, x.end + 1.0, begin, end) &&
+         narrow(from.y, to.y - from.y, y.begin - 1.0, y.end + 1.0, begin, end);
 }
 
 void ThinLines::dot(const AcGePoint2d& at) {
-  const double x = std::floor(at.x);
-  const double y = std::floor(at.y);
-  if (!(x >= m_x.begin && x < m_x.end && y >= m_y.begin && y < m_y.end)) return;
-  Blend(m_pixels[static_cast<std::ptrdiff_t>(y) * m_y.stride + static_cast<std::ptrdiff_t>(x)], m_color,
-        m_alpha);
+  const auto& [x, y] = m_axes;
+  if (!(at.x >= x.begin && at.x < x.end && at.y >= y.begin && at.y < y.end)) return;
+  Blend(m_pixels[static_cast<int>(at.y) * y.stride + static_cast<int>(at.x)], m_color, m_alpha);
 }
 
+// Which way a line runs changes from line to line: what depends on it is looked up, for a processor that
+// guesses wrong loses more time than the line takes.
 void ThinLines::line(const AcGePoint2d& from, const AcGePoint2d& to, bool smooth) {
   double begin = 0;
   double end = 1;
   if (!cut(from, to, begin, end)) return;
   const double dx = to.x - from.x;
   const double dy = to.y - from.y;
-  const AcGePoint2d a(from.x + dx * begin, from.y + dy * begin);
-  const AcGePoint2d b(from.x + dx * end, from.y + dy * end);
+  const double ends[2][2] = {{from.x + dx * begin, from.x + dx * end},
+                             {from.y + dy * begin, from.y + dy * end}};
   constexpr double kDot = 1e-3;
-  if (std::fabs(b.x - a.x) < kDot && std::fabs(b.y - a.y) < kDot) return dot(a);
-  const bool flat = std::fabs(dx) >= std::fabs(dy);
-  if (!smooth) {
-    if (flat) return sharp(m_x, m_y, a.x, b.x, (from.y + to.y) / 2);
-    return sharp(m_y, m_x, a.y, b.y, (from.x + to.x) / 2);
-  }
-  if (flat) return shade(m_x, m_y, a.x, a.y, b.x, b.y);
-  shade(m_y, m_x, a.y, a.x, b.y, b.x);
+  if (std::fabs(ends[0][1] - ends[0][0]) < kDot && std::fabs(ends[1][1] - ends[1][0]) < kDot)
+    return dot({ends[0][0], ends[1][0]});
+  const int along = std::fabs(dx) < std::fabs(dy);
+  const int across = 1 - along;
+  const double* const a = ends[along];
+  if (smooth) return shade(m_axes[along], m_axes[across], a[0], ends[across][0], a[1], ends[across][1]);
+  const double middle[2] = {(from.x + to.x) / 2, (from.y + to.y) / 2};
+  sharp(m_axes[along], m_axes[across], a[0], a[1], middle[across]);
 }
 
 void ThinLines::sharp(const Axis& along, const Axis& across, double a0, double a1, double c) {
@@ -85,7 +92,7 @@ void ThinLines::sharp(const Axis& along, const Axis& across, double a0, double a
 }
 
 // One pixel along the line, of which it covers a part.
-void ThinLines::shadeOne(const Axis& along, const Axis& across, int a, double c, double part) {
+inline void ThinLines::shadeOne(const Axis& along, const Axis& across, int a, double c, double part) {
   if (a < along.begin || a >= along.end) return;
   const auto fixed = static_cast<std::int64_t>((c - 0.5) * kOne);
   const auto at = static_cast<int>(fixed >> kFixedBits);
@@ -99,39 +106,43 @@ void ThinLines::shadeOne(const Axis& along, const Axis& across, int a, double c,
 
 // Whole pixels along the line; cut: some of them may lie beside the area.
 template <bool Cut>
-void ThinLines::shadeRun(const Axis& along, const Axis& across, int begin, int end, std::int64_t c,
-                         std::int64_t step) {
-  std::uint32_t* row = m_pixels + begin * along.stride;
-  for (int a = begin; a < end; ++a, c += step, row += along.stride) {
+inline void ThinLines::shadeRun(const Axis& along, const Axis& across, int begin, int end, std::int64_t c,
+                                std::int64_t step) {
+  // Of their own: a pixel that is written might be a member for all that the compiler knows.
+  const Axis side = across;
+  const std::ptrdiff_t stride = along.stride;
+  const std::uint64_t color = m_color;
+  const unsigned alpha = m_alpha;
+  std::uint32_t* row = m_pixels + begin * stride;
+  for (int a = begin; a < end; ++a, c += step, row += stride) {
     const auto at = static_cast<std::ptrdiff_t>(c >> kFixedBits);
     const auto share = static_cast<unsigned>((c >> (kFixedBits - 8)) & 0xFF);
-    const unsigned upper = (m_alpha * share) >> 8;
-    std::uint32_t* pixel = row + at * across.stride;
-    if (!Cut || (at >= across.begin && at < across.end)) Blend(*pixel, m_color, m_alpha - upper);
-    if (!Cut || (at + 1 >= across.begin && at + 1 < across.end)) Blend(pixel[across.stride], m_color, upper);
+    const unsigned upper = (alpha * share) >> 8;
+    std::uint32_t* pixel = row + at * side.stride;
+    if (!Cut || (at >= side.begin && at < side.end)) Blend(*pixel, color, alpha - upper);
+    if (!Cut || (at + 1 >= side.begin && at + 1 < side.end)) Blend(pixel[side.stride], color, upper);
   }
 }
 
 // The line covers one pixel across, shared by the two that it lies between.
 void ThinLines::shade(const Axis& along, const Axis& across, double a0, double c0, double a1, double c1) {
-  if (a0 > a1) {
-    std::swap(a0, a1);
-    std::swap(c0, c1);
-  }
   const double slope = (c1 - c0) / (a1 - a0);
-  const int first = static_cast<int>(std::floor(a0));
-  const int last = static_cast<int>(std::floor(a1));
-  if (first == last) return shadeOne(along, across, first, (c0 + c1) / 2, a1 - a0);
-  const auto acrossAt = [&](int a) { return c0 + slope * (a + 0.5 - a0); };
-  shadeOne(along, across, first, (c0 + acrossAt(first) + slope / 2) / 2, first + 1 - a0);
-  shadeOne(along, across, last, (c1 + acrossAt(last) - slope / 2) / 2, a1 - last);
+  const auto acrossAt = [&](double a) { return c0 + slope * (a - a0); };
+  const double least = std::min(a0, a1);
+  const double most = std::max(a0, a1);
+  const int first = Floor(least);
+  const int last = Floor(most);
+  if (first == last) return shadeOne(along, across, first, (c0 + c1) / 2, most - least);
+  shadeOne(along, across, first, acrossAt((least + first + 1) / 2), first + 1 - least);
+  shadeOne(along, across, last, acrossAt((most + last) / 2), most - last);
   const int begin = std::max(first + 1, along.begin);
   const int end = std::min(last, along.end);
   if (begin >= end) return;
-  const auto c = static_cast<std::int64_t>((acrossAt(begin) - 0.5) * kOne);
+  const auto c = static_cast<std::int64_t>((acrossAt(begin + 0.5) - 0.5) * kOne);
   const auto step = static_cast<std::int64_t>(slope * kOne);
   const std::int64_t atEnd = c + step * (end - 1 - begin);
-  const auto [low, high] = std::minmax(c, atEnd);
+  const std::int64_t low = std::min(c, atEnd);
+  const std::int64_t high = std::max(c, atEnd);
   const bool inside = (low >> kFixedBits) >= across.begin && (high >> kFixedBits) + 1 < across.end;
   inside ? shadeRun<false>(along, across, begin, end, c, step)
          : shadeRun<true>(along, across, begin, end, c, step);

@@ -27,12 +27,20 @@ class ThinLines {
   // The part of a line near the area, as shares of its length; false when there is none.
   bool cut(const AcGePoint2d& from, const AcGePoint2d& to, double& begin, double& end) const;
   bool isNear(const AcGePoint2d& p) const {
-    return p.x >= m_x.begin - 1 && p.x <= m_x.end + 1 && p.y >= m_y.begin - 1 && p.y <= m_y.end + 1;
+    const auto& [x, y] = m_axes;
+    return p.x >= x.begin - 1 && p.x <= x.end + 1 && p.y >= y.begin - 1 && p.y <= y.end + 1;
+  }
+  // Tells the processor that this pixel will be drawn soon.
+  void expect(const AcGePoint2d& at) const {
+    const auto& [x, y] = m_axes;
+    if (!(at.x >= x.begin && at.x < x.end && at.y >= y.begin && at.y < y.end)) return;
+    __builtin_prefetch(m_pixels + static_cast<int>(at.y) * y.stride + static_cast<int>(at.x), 1);
   }
   // What lies in the box may be seen.
   bool mayShow(const ge::Box2d& box) const {
-    return box.maxX >= m_x.begin - 1 && box.minX <= m_x.end + 1 && box.maxY >= m_y.begin - 1 &&
-           box.minY <= m_y.end + 1;
+    const auto& [x, y] = m_axes;
+    return box.maxX >= x.begin - 1 && box.minX <= x.end + 1 && box.maxY >= y.begin - 1 &&
+           box.minY <= y.end + 1;
   }
 
  private:
@@ -49,8 +57,7 @@ class ThinLines {
   void sharp(const Axis& along, const Axis& across, double a0, double a1, double c);
 
   std::uint32_t* m_pixels;
-  Axis m_x;
-  Axis m_y;
+  Axis m_axes[2];            // x, y
   std::uint64_t m_color = 0; // spread, see Blend
   unsigned m_alpha = 256;    // of 256
 };

@@ -47,6 +47,7 @@ void ThinStrokes::draw(scene::PathView path, const scene::Pattern* pattern, bool
   setPattern(pattern);
   if (m_dashed) return through(path, pattern->bySegment);
   const AcGePoint2d* p = path.points.data();
+  for (const AcGePoint2d& point : path.points) m_lines.expect(onScreen(point));
   AcGePoint2d first;
   for (const scene::Verb verb : path.verbs) {
     switch (verb) {

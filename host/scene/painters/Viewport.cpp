@@ -98,7 +98,7 @@ void painters::Viewport(Pen& pen) {
   const ge::Box2d visible = BoxOf(shape.view());
   Frame frame;
   frame.toScene = pen.frame().toScene * *matrix;
-  frame.clip = pen.builder().addClip(std::move(shape), pen.frame().clip);
+  frame.clip = pen.builder().addClip(std::move(shape), pen.clip());
   frame.frozen = &frozen;
   frame.linetypeLength = pen.variables().paperLinetypeScale ? 1 : tags.real(41) / tags.real(45);
   pen.builder().addThrough(frame, *model, visible);

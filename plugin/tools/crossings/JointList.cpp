@@ -12,12 +12,9 @@ void JointList::Add(const AcGePoint3d& point) {
   box.Add(AcGePoint2d(point.x, point.y));
   const SpatialIndex::Entry entry{box, m_joints.size()};
   const double reach = ge::CurveTolerance(std::max(std::fabs(point.x), std::fabs(point.y)));
-  box.minX -= reach;
-  box.minY -= reach;
-  box.maxX += reach;
-  box.maxY += reach;
   bool isKnown = false;
-  m_places.visit(box, [&](std::size_t joint) { isKnown = isKnown || point.isEqualTo(m_joints[joint]); });
+  m_places.visit(box.Grown(reach),
+                 [&](std::size_t joint) { isKnown = isKnown || point.isEqualTo(m_joints[joint]); });
   if (isKnown) return;
   m_places.insert(entry);
   m_joints.push_back(point);

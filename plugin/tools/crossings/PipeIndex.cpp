@@ -13,14 +13,6 @@ namespace crossings {
 
 namespace {
 
-void Grow(ge::Box2d& box, double by) {
-  if (box.IsEmpty()) return;
-  box.minX -= by;
-  box.minY -= by;
-  box.maxX += by;
-  box.maxY += by;
-}
-
 // Whether the old box finds the curve as well as the new one: it is around it, and less than twice as large.
 // A pipe that is trimmed at a symbol loses so little that taking it out of the tree and putting it back is
 // not worth it.
@@ -33,9 +25,7 @@ bool WillDo(const ge::Box2d& old, const ge::Box2d& now) {
 ge::Box2d BoxOf(const AcDbObjectId& id) {
   const auto curve = GeometryOf(id);
   if (!curve || curve->Status() != ge::CurveStatus::kOk) return {};
-  ge::Box2d box = entity::planBox(*curve);
-  Grow(box, curve->Tolerance());
-  return box;
+  return entity::planBox(*curve).Grown(curve->Tolerance());
 }
 
 } // namespace
@@ -90,9 +80,8 @@ std::vector<int> PipeIndex::Near(const AcGePoint3d& point, double radius) const 
   const double magnitude = std::max(std::fabs(point.x), std::fabs(point.y)) + radius;
   ge::Box2d box;
   box.Add(AcGePoint2d(point.x, point.y));
-  Grow(box, radius + 2.0 * ge::CurveTolerance(magnitude));
   std::vector<int> positions;
-  m_boxes.visit(box, [&](std::size_t number) {
+  m_boxes.visit(box.Grown(radius + 2.0 * ge::CurveTolerance(magnitude)), [&](std::size_t number) {
     positions.insert(positions.end(), m_pipes[number].positions.begin(), m_pipes[number].positions.end());
   });
   std::sort(positions.begin(), positions.end());

@@ -182,6 +182,21 @@ TEST_F(Ahead, AttributesBelongToTheInsertionThatIsToldOf) {
   EXPECT_EQ(4u, live.page(0).texts.size());
 }
 
+TEST_F(Ahead, ABlockThatHasToWaitIsNotTakenForWholeInTheNextPage) {
+  const std::string block = "0 BLOCK|5 20|100 AcDbEntity|8 0|100 AcDbBlockBegin|2 样|70 0|10 0|20 0|3 样|" +
+                            Lines(1, "0", 0x30) +
+                            "|0 CIRCLE|100 AcDbEntity|8 0|100 AcDbCircle|10 0|20 0|40 1" +
+                            "|0 ENDBLK|5 21|100 AcDbEntity|8 0|100 AcDbBlockEnd";
+  std::string entities;
+  for (int i = 0; i < 12; ++i)
+    entities += (i ? "|0 INSERT|5 4" : "0 INSERT|5 4") + std::to_string(10 + i) +
+                "|100 AcDbEntity|8 甲|100 AcDbBlockReference|2 样|20 6|10 " + std::to_string(i);
+  read(Parts{
+      .entities = entities, .blocks = block, .layers = kLayers, .blockRecords = "0 BLOCK_RECORD|5 1F|2 样"});
+  expectSame();
+  EXPECT_EQ(3u, left()); // each page
+}
+
 TEST_F(Ahead, WhatWasReadAndThenChangedIsMadeAnew) {
   read(Parts{.entities = Lines(21), .layers = kLayers});
   const auto& entities = AcDbBlockTableRecord::cast(database->modelSpaceId().object())->entities();
