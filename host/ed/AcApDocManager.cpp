@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <system_error>
+#include <utility>
 
 namespace fs = std::filesystem;
 
@@ -123,6 +124,15 @@ void AcApDocManager::titleChanged(AcApDocument& document) {
 
 Acad::ErrorStatus AcApDocManager::lockDocument(AcApDocument* document, AcAp::DocLockMode mode,
                                                const wchar_t* globalCommand, const wchar_t*, bool) {
+  const auto status = lockForCommand(document, mode, globalCommand);
+  if (status != Acad::eOk || document->lockCount() > 1 || mode == AcAp::kRead) return status;
+  document->m_lockIsStep = true;
+  document->database()->undo().beginCommand(globalCommand ? globalCommand : L"修改");
+  return status;
+}
+
+Acad::ErrorStatus AcApDocManager::lockForCommand(AcApDocument* document, AcAp::DocLockMode mode,
+                                                 const wchar_t* globalCommand) {
   if (!isOpen(document)) return Acad::eNoDocument;
   if (mode == AcAp::kNone || mode == AcAp::kNotLocked) return Acad::eInvalidInput;
   const auto before = document->lockMode();
@@ -143,6 +153,8 @@ Acad::ErrorStatus AcApDocManager::unlockDocument(AcApDocument* document) {
   if (document->m_locks.empty()) return Acad::eNotApplicable;
   const auto before = document->lockMode();
   document->m_locks.pop_back();
+  if (document->m_locks.empty() && std::exchange(document->m_lockIsStep, false))
+    document->database()->undo().endCommand();
   tell([&](auto& reactor) {
     reactor.documentLockModeChanged(document, before, document->lockMode(), nullptr);
   });

@@ -40,10 +40,15 @@ class AcApDocManager {
 
   // --- locks
   // ------------------------------------------------------------------------------------------------
-  // eNoDocument, eInvalidInput for a mode that is none, eLockViolation when an observer refuses.
+  // eNoDocument, eInvalidInput for a mode that is none, eLockViolation when an observer refuses. What is
+  // changed under a lock for writing outside of any command, as bars and windows do that stay open, is one
+  // step of undo, under the name of globalCommand where there is one.
   Acad::ErrorStatus lockDocument(AcApDocument* document, AcAp::DocLockMode mode = AcAp::kWrite,
                                  const wchar_t* globalCommand = nullptr,
                                  const wchar_t* localCommand = nullptr, bool prompt = true);
+  // The same around a command, whose step of undo the editor begins itself.
+  Acad::ErrorStatus lockForCommand(AcApDocument* document, AcAp::DocLockMode mode,
+                                   const wchar_t* globalCommand);
   // Takes the latest lock off. eNoDocument, eNotApplicable when there is none.
   Acad::ErrorStatus unlockDocument(AcApDocument* document);
 

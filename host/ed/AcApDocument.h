@@ -54,6 +54,7 @@ class AcApDocument : public AcRxObject {
   CString m_fileName;
   CString m_title;
   std::vector<AcAp::DocLockMode> m_locks;
+  bool m_lockIsStep = false; // the first of them began a step of undo
   EditState m_edit;
   bool m_rescueBeforeSave = false;
 };

@@ -172,7 +172,7 @@ EdSession::Outcome EdSession::run(std::shared_ptr<const AcEdCommand> command) {
     refuse(L"没有打开的图形，不能执行“" + command->globalName() + L"”。", L"先用 NEW 或 OPEN 打开图形");
     return Outcome::failed;
   }
-  if (inDocument && manager->lockDocument(document, lockOf(*command), command->globalName()) != Acad::eOk) {
+  if (inDocument && manager->lockForCommand(document, lockOf(*command), command->globalName()) != Acad::eOk) {
     refuse(L"图形被锁定，不能执行“" + command->globalName() + L"”。");
     return Outcome::failed;
   }

@@ -35,6 +35,8 @@ class CommandFeed {
   // The next line; lets the window live until there is one. Nothing at the end of the input.
   std::optional<Given> next();
   bool isWaiting() const { return m_loop != nullptr; }
+  // A line has come, and is read as soon as the window lets go.
+  bool isAboutToRead() const { return m_loop && !m_lines.empty(); }
 
  private:
   std::optional<Given> ready();

@@ -1,12 +1,13 @@
-// Holds the current document under a write lock for the length of a scope.
+// Holds the current document under a write lock for the length of a scope. Outside of a command what is
+// changed in it is one step of undo, which U tells by its name.
 #pragma once
 
 #include "host/ed/AcApDocManager.h"
 
 class DocumentWriteLock {
  public:
-  DocumentWriteLock() : m_document(acDocManagerPtr()->curDocument()) {
-    m_status = acDocManagerPtr()->lockDocument(m_document, AcAp::kWrite);
+  explicit DocumentWriteLock(const wchar_t* step = nullptr) : m_document(acDocManagerPtr()->curDocument()) {
+    m_status = acDocManagerPtr()->lockDocument(m_document, AcAp::kWrite, step);
   }
   ~DocumentWriteLock() {
     if (IsHeld()) acDocManagerPtr()->unlockDocument(m_document);

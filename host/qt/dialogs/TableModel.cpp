@@ -16,6 +16,11 @@ QColor ColorOf(COLORREF color) {
           static_cast<int>(GetBValue(color))};
 }
 
+// A cell whose text is of the colour that it stands on has the colour itself to show, selected or not.
+bool showsColour(const UiCell& cell) {
+  return cell.background && cell.foreground == cell.background;
+}
+
 } // namespace
 
 int TableModel::rowCount(const QModelIndex& parent) const {
@@ -66,6 +71,7 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
     if (whole.fixed) return QBrush(kHeadingColour);
     const bool focus = row == m_table.GetFocusRow() && column == m_table.GetFocusColumn();
     if (focus && !m_table.SelectsRows()) return QBrush(kFocusColour);
+    if (showsColour(cell)) return QBrush(ColorOf(*cell.background));
     if (m_table.IsRowSelected(row)) {
       if (m_table.SelectsRows()) return QBrush(kFocusColour);
       if (!cell.background) return QBrush(kSelectedColour);

@@ -58,7 +58,7 @@ void SwitchShown(CGridCtrl& grid, const layers::StateColumn& column, bool set) {
 void SwitchOthers(const CGridCtrl& grid, bool off) {
   std::unordered_set<CString> shown; // asked for once per layer of the drawing
   for (int row = 0; row < grid.GetRowCount(); ++row) shown.insert(grid.GetItemText(row, layers::kNameColumn));
-  const DocumentWriteLock lock;
+  const DocumentWriteLock lock(L"其他图层开关");
   if (!lock.IsHeld()) return;
   CStringArray names;
   ZP::GetCurDwgAllLayer(names);

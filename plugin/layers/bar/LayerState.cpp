@@ -20,7 +20,7 @@ LayerState layers::ReadLayerState(const CString& name) {
 }
 
 void layers::WriteLayerState(const LayerState& state) {
-  const DocumentWriteLock lock;
+  const DocumentWriteLock lock(L"图层开关、冻结或锁定");
   if (!lock.IsHeld()) return;
   const OpenTable table = OpenLayerTable(AcDb::kForWrite);
   if (!table) return;

@@ -72,6 +72,43 @@ TEST_F(DocManager, LocksNestAndCount) {
   EXPECT_EQ(Acad::eNoDocument, acDocManager->lockDocument(nullptr));
 }
 
+TEST_F(DocManager, WhatIsChangedUnderALockOutsideOfCommandsIsOneStepOfUndo) {
+  UndoHistory& undo = database().undo();
+  acDocManager->lockDocument(document, AcAp::kWrite, L"灯");
+  addLine({0, 0, 0}, {1, 1, 0});
+  acDocManager->lockDocument(document, AcAp::kWrite, L"开关");
+  addLine({0, 0, 0}, {1, 1, 0});
+  acDocManager->unlockDocument(document);
+  EXPECT_EQ(0u, undo.commandCount());
+  acDocManager->unlockDocument(document);
+  ASSERT_EQ(1u, undo.commandCount());
+  EXPECT_EQ(L"灯", undo.undoName());
+  EXPECT_EQ(Acad::eOk, undo.undo());
+  EXPECT_EQ(0u, undo.commandCount());
+  acDocManager->lockDocument(document);
+  addLine({0, 0, 0}, {1, 1, 0});
+  acDocManager->unlockDocument(document);
+  EXPECT_EQ(L"修改", undo.undoName());
+}
+
+TEST_F(DocManager, ALockUnderWhichNothingChangesLeavesNoStep) {
+  acDocManager->lockDocument(document);
+  acDocManager->unlockDocument(document);
+  EXPECT_EQ(0u, database().undo().commandCount());
+}
+
+TEST_F(DocManager, LocksWithinACommandBelongToItsStep) {
+  define(L"ADD", [] {
+    acDocManager->lockDocument(curDoc(), AcAp::kWrite, L"灯");
+    addLine({0, 0, 0}, {1, 1, 0});
+    acDocManager->unlockDocument(curDoc());
+    addLine({0, 0, 0}, {1, 1, 0});
+  });
+  run(L"ADD");
+  ASSERT_EQ(1u, database().undo().commandCount());
+  EXPECT_EQ(L"ADD", database().undo().undoName());
+}
+
 TEST_F(DocManager, AnObserverMayRefuseALock) {
   Recorder recorder;
   recorder.refuseLocks = true;

@@ -65,6 +65,7 @@ void Desktop::run(std::vector<std::function<void()>> steps) {
   bool busy = false;
   QObject::connect(&timer, &QTimer::timeout, [&] {
     if (busy) return; // within a dialog that a step has opened
+    if (feed.isAboutToRead()) return;
     if (next == steps.size()) return feed.close();
     busy = true;
     steps[next++]();

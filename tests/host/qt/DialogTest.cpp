@@ -268,6 +268,20 @@ TEST_F(DialogView, ShowsMergedCellsAndColours) {
   }});
 }
 
+TEST_F(DialogView, AColourFieldStaysToBeSeenInASelectedRow) {
+  dialog.list.SetCellColours(1, 1, RGB(255, 0, 0), RGB(255, 0, 0));
+  dialog.list.SetCurSel(1);
+  show({[&] {
+    const auto colorAt = [&](int column) {
+      const auto* model = find<QTableView>("管材").model();
+      return model->index(1, column).data(Qt::BackgroundRole).value<QBrush>().color();
+    };
+    EXPECT_EQ(QColor(255, 0, 0), colorAt(1));
+    EXPECT_NE(colorAt(0), colorAt(1));
+    EXPECT_NE(colorAt(0), QColor(Qt::white));
+  }});
+}
+
 TEST_F(DialogView, OpensTheMenuOfARow) {
   int chosen = 0;
   dialog.list.Menu.SetProvider([] { return std::vector<UiMenuItem>{{7, L"删除", true}}; });

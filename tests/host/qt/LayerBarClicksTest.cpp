@@ -85,6 +85,24 @@ TEST_F(LayerBarClicks, SwitchLayers) {
        }});
 }
 
+TEST_F(LayerBarClicks, AreTakenBackOneByOne) {
+  run({[&] { enter("KOR_CADTCKZ"); },
+       [&] {
+         click(1, kOffColumn);
+         click(2, kLockedColumn);
+         EXPECT_TRUE(layer(L"采暖供水").isOff());
+         EXPECT_TRUE(layer(L"采暖回水").isLocked());
+         enter("U");
+       },
+       [&] {
+         EXPECT_TRUE(layer(L"采暖供水").isOff());
+         EXPECT_FALSE(layer(L"采暖回水").isLocked());
+         EXPECT_NE(said().find("已放弃 图层开关、冻结或锁定"), std::string::npos);
+         enter("U");
+       },
+       [&] { EXPECT_FALSE(layer(L"采暖供水").isOff()); }});
+}
+
 TEST_F(LayerBarClicks, ShowAPictureForEachState) {
   run({[&] { enter("KOR_CADTCKZ"); },
        [&] {
