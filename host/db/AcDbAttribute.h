@@ -23,6 +23,7 @@ class AcDbTaggedText : public AcDbText {
   void dxfInFields(DxfTags tags, const DxfDecodeContext& context) override;
   void outTagged(DxfRecordEditor& editor, std::string_view subclass, const CString* prompt) const;
   bool hasClosingMarker() const override { return false; }
+  int verticalCode() const override { return 74; }
   int flags() const { return m_flags; }
   Acad::ErrorStatus setFlag(int bit, bool on) { return assign(m_flags, on ? m_flags | bit : m_flags & ~bit); }
 

@@ -11,15 +11,10 @@
 
 ACRX_DXF_DEFINE_MEMBERS(AcDbText, AcDbEntity, "TEXT")
 
-CString AcDbText::textString() const {
-  if (m_newText) return *m_newText;
-  for (const DxfTag& tag : dxfOwnTags(rawRecord().tags()))
-    if (tag.code == 1) return dxf::decodeText(tag.value);
-  return {};
-}
-
 Acad::ErrorStatus AcDbText::setTextString(const CString& text) {
-  return assign(m_newText, text);
+  const auto status = assign(m_text, text);
+  m_textChanged |= status == Acad::eOk;
+  return status;
 }
 
 AcGePoint3d AcDbText::position() const {
@@ -111,10 +106,27 @@ void AcDbText::dxfInFields(DxfTags tags, const DxfDecodeContext& context) {
   m_rotation = m_oblique = 0;
   m_widthFactor = 1;
   m_style.setNull();
-  m_newText.reset();
+  m_text.Empty();
+  m_textChanged = false;
+  m_horizontal = m_vertical = m_generation = 0;
+  const auto modeIn = [&](const DxfTag& tag) {
+    return static_cast<int>(context.integerIn(tag, -0x8000, 0x7FFF, 0));
+  };
+  bool hasText = false;
   const entity::FieldScope scope(tags);
   for (const DxfTag& tag : scope) {
+    if (tag.code == verticalCode()) m_vertical = modeIn(tag);
     switch (tag.code) {
+    case 1:
+      if (!hasText) m_text = dxf::decodeText(tag.value);
+      hasText = true;
+      break;
+    case 71:
+      m_generation = modeIn(tag);
+      break;
+    case 72:
+      m_horizontal = modeIn(tag);
+      break;
     case 10:
       m_position.x = context.real(tag);
       break;
@@ -160,7 +172,7 @@ void AcDbText::dxfOutFields(DxfRecordEditor& editor) const {
   editor.subclass("AcDbText");
   editor.point(10, m_position);
   editor.real(40, m_height);
-  if (m_newText || rawRecord().isEmpty()) editor.text(1, textString());
+  if (m_textChanged || rawRecord().isEmpty()) editor.text(1, m_text);
   entity::writeDegrees(editor, 50, m_rotation, true);
   editor.real(41, m_widthFactor, 1.0);
   entity::writeDegrees(editor, 51, m_oblique, true);

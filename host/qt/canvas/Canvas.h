@@ -34,8 +34,10 @@ class Canvas : public QWidget {
   // Half the side of the pick box in drawing units.
   double pickAperture() const;
   void zoomAll();
-  // A large drawing is painted little by little; until it is done the view before is shown in its place.
-  bool isPainted() const { return !m_stale && !m_painting && m_shown.shows(pixelMap()); }
+  // A large drawing is painted little by little; until it is done the view before is shown in its place. Its
+  // first picture is a draft, so that all of it is to be seen soon: it is shown, and not yet painted.
+  bool isShown() const { return !m_stale && m_shown.shows(pixelMap()); }
+  bool isPainted() const { return isShown() && !m_painting; }
   // Paints what is left at once, for a picture of the window.
   void finishPainting();
 

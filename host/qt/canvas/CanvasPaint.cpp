@@ -21,6 +21,7 @@ constexpr double kSnapMark = 6; // pixels to each side
 // Of a frame that painting may take, so that 30 of them fit into a second.
 constexpr std::chrono::milliseconds kFrame(12);
 constexpr std::size_t kMostHighlighted = 5000;
+constexpr std::size_t kSmallPicture = 8; // pages that are smooth from the beginning
 
 } // namespace
 
@@ -38,7 +39,9 @@ void Canvas::paintDrawing() {
   const ViewMap wanted = pixelMap();
   const bool shifted = m_shown.shiftTo(wanted, m_picture);
   if (m_painting ? m_stale || !m_next.shiftTo(wanted, m_picture) : m_stale || !shifted) {
-    m_next.begin(wanted, m_colors.background);
+    // Of a large drawing a draft is better than nothing to be seen.
+    const bool draft = m_shown.isEmpty() && m_picture.pageCount() > kSmallPicture;
+    m_next.begin(wanted, m_colors.background, draft);
     m_painting = true;
     m_stale = false;
   }
@@ -51,13 +54,16 @@ void Canvas::goOnPainting(std::chrono::microseconds time) {
   const bool hurry = m_shown.isEmpty() || time > std::chrono::seconds(1);
   if (!m_next.goOn(m_picture, time, hurry)) return m_goOn.start(0);
   std::swap(m_shown, m_next);
-  m_painting = false;
+  m_painting = m_shown.isDraft();
   update();
+  if (!m_painting) return;
+  m_next.begin(m_shown.map(), m_colors.background);
+  m_goOn.start(0);
 }
 
 void Canvas::finishPainting() {
   paintDrawing();
-  goOnPainting(std::chrono::hours(1));
+  while (m_painting) goOnPainting(std::chrono::hours(1));
 }
 
 // While the view is painted, what is there of it, and over it the view before in its place.

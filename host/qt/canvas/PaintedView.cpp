@@ -21,7 +21,7 @@ constexpr double kWhole = 0.02;       // pixels that a shift by whole ones may b
 
 } // namespace
 
-void PaintedView::begin(const ViewMap& map, const QColor& background) {
+void PaintedView::begin(const ViewMap& map, const QColor& background, bool draft) {
   const QSize size(std::max(static_cast<int>(map.size.width()), 1),
                    std::max(static_cast<int>(map.size.height()), 1));
   if (m_image.size() != size) m_image = QImage(size, QImage::Format_RGB32);
@@ -30,13 +30,14 @@ void PaintedView::begin(const ViewMap& map, const QColor& background) {
   m_background = background;
   m_pages = 0;
   m_complete = false;
+  m_draft = draft;
 }
 
 // What is painted of all, anew in a part of the window.
 void PaintedView::paintArea(const QRect& area, DrawingPicture& picture) {
   if (area.isEmpty()) return;
   QPainter(&m_image).fillRect(area, m_background);
-  ScenePainter painter(m_image, area, m_map, m_background, picture.outlines());
+  ScenePainter painter(m_image, area, m_map, m_background, picture.outlines(), m_draft);
   for (std::size_t page = 0; page < m_pages; ++page) painter.paint(picture.page(page), picture.hidden());
 }
 
@@ -60,7 +61,8 @@ void PaintedView::paintPages(std::size_t begin, std::size_t end, int bands, Draw
     QImage image(pixels, all.width(), all.height(), m_image.bytesPerLine(), m_image.format());
     const int top = all.height() * band / bands;
     const QRect area(0, top, all.width(), all.height() * (band + 1) / bands - top);
-    ScenePainter painter(image, area, m_map, m_background, picture.outlines(static_cast<std::size_t>(band)));
+    ScenePainter painter(image, area, m_map, m_background, picture.outlines(static_cast<std::size_t>(band)),
+                         m_draft);
     for (std::size_t page = begin; page < end; ++page) painter.paint(picture.page(page), picture.hidden());
   };
   std::vector<std::jthread> threads;

@@ -15,8 +15,9 @@ class DrawingPicture;
 
 class PaintedView {
  public:
-  // Empty pixels of a view. The map's window is in pixels of the screen.
-  void begin(const ViewMap& map, const QColor& background);
+  // Empty pixels of a view. The map's window is in pixels of the screen. A draft has lines that are not
+  // smooth.
+  void begin(const ViewMap& map, const QColor& background, bool draft = false);
   // Paints on until all is there or the time is over; whether all is there. A small drawing is painted at
   // once.
   // In a hurry all processors work on it, for more than a moment at a time.
@@ -31,6 +32,7 @@ class PaintedView {
   // All of the drawing at this very view.
   bool shows(const ViewMap& map) const;
   bool isComplete() const { return m_complete; }
+  bool isDraft() const { return m_draft; }
   bool isEmpty() const { return m_image.isNull(); }
   const ViewMap& map() const { return m_map; }
   const QImage& image() const { return m_image; }
@@ -44,6 +46,7 @@ class PaintedView {
   QColor m_background;
   std::size_t m_pages = 0; // of the picture that are painted
   bool m_complete = false;
+  bool m_draft = false;
 };
 
 } // namespace desktop

@@ -30,8 +30,8 @@ ge::Box2d WorldBox(const ViewMap& map, const QRect& area) {
 } // namespace
 
 ScenePainter::ScenePainter(QImage& image, const QRect& area, const ViewMap& map, const QColor& background,
-                           TextOutlines& outlines)
-    : m_painter(&image), m_area(area), m_map(map), m_lines(image, area), m_strokes(m_lines, m_map),
+                           TextOutlines& outlines, bool draft)
+    : m_painter(&image), m_area(area), m_map(map), m_lines(image, area, draft), m_strokes(m_lines, m_map),
       m_letters(image, area),
       m_outlines(outlines), m_background{static_cast<std::uint8_t>(background.red()),
                                          static_cast<std::uint8_t>(background.green()),

@@ -17,9 +17,10 @@ namespace desktop {
 
 class ScenePainter {
  public:
-  // The map's window is the image; nothing is painted outside of the area. See ThinLines for the image.
+  // The map's window is the image; nothing is painted outside of the area. See ThinLines for the image and
+  // for drafts.
   ScenePainter(QImage& image, const QRect& area, const ViewMap& map, const QColor& background,
-               TextOutlines& outlines);
+               TextOutlines& outlines, bool draft = false);
   ScenePainter(const ScenePainter&) = delete;
   ScenePainter& operator=(const ScenePainter&) = delete;
   void paint(const scene::Scene& scene, const std::unordered_set<AcDbObjectId>& hidden = {});

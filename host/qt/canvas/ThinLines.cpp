@@ -32,14 +32,16 @@ int Floor(double value) {
 
 } // namespace
 
-ThinLines::ThinLines(QImage& image, const QRect& area)
+ThinLines::ThinLines(QImage& image, const QRect& area, bool draft)
     : m_pixels(reinterpret_cast<std::uint32_t*>(image.bits())),
       m_axes{
           {1, std::max(area.left(), 0), std::min(area.right() + 1, image.width())},
-          {image.bytesPerLine() / 4, std::max(area.top(), 0), std::min(area.bottom() + 1, image.height())}} {}
+          {image.bytesPerLine() / 4, std::max(area.top(), 0), std::min(area.bottom() + 1, image.height())}},
+      m_draft(draft) {}
 
 void ThinLines::setColor(const QColor& color) {
-  m_color = Spread(color.rgb());
+  m_pixel = color.rgb();
+  m_color = Spread(m_pixel);
   m_alpha = static_cast<unsigned>(color.alpha()) * 256 / 255;
 }
 
@@ -75,7 +77,9 @@ void ThinLines::line(const AcGePoint2d& from, const AcGePoint2d& to, bool smooth
   const int along = std::fabs(dx) < std::fabs(dy);
   const int across = 1 - along;
   const double* const a = ends[along];
-  if (smooth) return shade(m_axes[along], m_axes[across], a[0], ends[across][0], a[1], ends[across][1]);
+  const double* const c = ends[across];
+  if (smooth && m_draft) return plain(m_axes[along], m_axes[across], a[0], c[0], a[1], c[1]);
+  if (smooth) return shade(m_axes[along], m_axes[across], a[0], c[0], a[1], c[1]);
   const double middle[2] = {(from.x + to.x) / 2, (from.y + to.y) / 2};
   sharp(m_axes[along], m_axes[across], a[0], a[1], middle[across]);
 }
@@ -146,6 +150,26 @@ void ThinLines::shade(const Axis& along, const Axis& across, double a0, double c
   const bool inside = (low >> kFixedBits) >= across.begin && (high >> kFixedBits) + 1 < across.end;
   inside ? shadeRun<false>(along, across, begin, end, c, step)
          : shadeRun<true>(along, across, begin, end, c, step);
+}
+
+// One pixel for each along the line.
+void ThinLines::plain(const Axis& along, const Axis& across, double a0, double c0, double a1, double c1) {
+  const double slope = (c1 - c0) / (a1 - a0);
+  const int begin = std::max(Floor(std::min(a0, a1)), along.begin);
+  const int end = std::min(Floor(std::max(a0, a1)) + 1, along.end);
+  const Axis side = across;
+  const std::ptrdiff_t stride = along.stride;
+  auto c = static_cast<std::int64_t>((c0 + slope * (begin + 0.5 - a0)) * kOne);
+  const auto step = static_cast<std::int64_t>(slope * kOne);
+  std::uint32_t* row = m_pixels + begin * stride;
+  for (int a = begin; a < end; ++a, c += step, row += stride) {
+    const auto at = static_cast<std::ptrdiff_t>(c >> kFixedBits);
+    if (at < side.begin || at >= side.end) continue;
+    if (m_alpha == 256)
+      row[at * side.stride] = m_pixel;
+    else
+      Blend(row[at * side.stride], m_color, m_alpha);
+  }
 }
 
 } // namespace desktop

@@ -16,8 +16,9 @@ namespace desktop {
 
 class ThinLines {
  public:
-  // Draws within the area only. The image has the format RGB32, is shared with nobody, and outlives this.
-  ThinLines(QImage& image, const QRect& area);
+  // Draws within the area only. The image has the format RGB32, is shared with nobody, and outlives this. A
+  // draft is smooth nowhere and done in half the time.
+  ThinLines(QImage& image, const QRect& area, bool draft = false);
   void setColor(const QColor& color);
   // Coordinates are pixels, y down; a pixel is the square between two integers. A smooth line shades the
   // pixels beside it; one that isn't is for lines along the axes, which are sharp without. One without length
@@ -54,12 +55,15 @@ class ThinLines {
   void shadeOne(const Axis& along, const Axis& across, int a, double c, double part);
   template <bool Cut>
   void shadeRun(const Axis& along, const Axis& across, int begin, int end, std::int64_t c, std::int64_t step);
+  void plain(const Axis& along, const Axis& across, double a0, double c0, double a1, double c1);
   void sharp(const Axis& along, const Axis& across, double a0, double a1, double c);
 
   std::uint32_t* m_pixels;
   Axis m_axes[2];            // x, y
   std::uint64_t m_color = 0; // spread, see Blend
   unsigned m_alpha = 256;    // of 256
+  std::uint32_t m_pixel = 0; // of the colour alone
+  bool m_draft;
 };
 
 } // namespace desktop

@@ -8,9 +8,6 @@
 namespace scene {
 namespace {
 
-constexpr long long kBackward = 2; // flags
-constexpr long long kUpsideDown = 4;
-
 const StyleLook& styleOf(const Pen& pen, const AcDbText& text) {
   if (text.textStyle()) return pen.style(text.textStyle());
   // In a file whose styles stand behind its texts they have but the name.
@@ -18,27 +15,23 @@ const StyleLook& styleOf(const Pen& pen, const AcDbText& text) {
   return pen.style(name.IsEmpty() ? CString(L"Standard") : name);
 }
 
-void draw(Pen& pen, const CString& shown, int verticalCode) {
-  const auto* text = AcDbText::cast(&pen.entity());
-  if (!text) return;
-  const EntityTags& tags = pen.tags();
+void draw(Pen& pen, const AcDbText& text, const CString& shown) {
   TextLine line;
   line.text = shown;
-  line.style = styleOf(pen, *text);
-  line.style.oblique = text->oblique();
-  const long long flags = tags.integer(71);
-  line.style.backward = (flags & kBackward) != 0;
-  line.style.upsideDown = (flags & kUpsideDown) != 0;
-  line.height = text->height();
+  line.style = styleOf(pen, text);
+  line.style.oblique = text.oblique();
+  line.style.backward = text.isBackward();
+  line.style.upsideDown = text.isUpsideDown();
+  line.height = text.height();
   if (!(line.height > 0)) return pen.leaveOut(L"字高为零的文字");
-  line.widthFactor = text->widthFactor();
+  line.widthFactor = text.widthFactor();
   if (!(line.widthFactor > 0)) line.widthFactor = 1;
-  line.rotation = text->rotation();
-  line.normal = text->normal().isZeroLength() ? AcGeVector3d(0, 0, 1) : text->normal().normal();
-  line.horizontal = static_cast<Horizontal>(std::clamp<long long>(tags.integer(72), 0, 5));
-  line.vertical = static_cast<Vertical>(std::clamp<long long>(tags.integer(verticalCode), 0, 3));
-  line.position = text->ownPosition();
-  const auto& second = text->ownAlignmentPoint();
+  line.rotation = text.rotation();
+  line.normal = text.normal().isZeroLength() ? AcGeVector3d(0, 0, 1) : text.normal().normal();
+  line.horizontal = static_cast<Horizontal>(std::clamp(text.horizontalMode(), 0, 5));
+  line.vertical = static_cast<Vertical>(std::clamp(text.verticalMode(), 0, 3));
+  line.position = text.ownPosition();
+  const auto& second = text.ownAlignmentPoint();
   const bool twoEnds = line.horizontal == Horizontal::aligned || line.horizontal == Horizontal::fit;
   line.second = second.value_or(line.position);
   const bool isPlain = line.horizontal == Horizontal::left && line.vertical == Vertical::baseline;
@@ -49,23 +42,23 @@ void draw(Pen& pen, const CString& shown, int verticalCode) {
 } // namespace
 
 void painters::Text(Pen& pen) {
-  draw(pen, pen.tags().text(1), 73);
+  if (const auto* text = AcDbText::cast(&pen.entity())) draw(pen, *text, text->textString());
 }
 
 void painters::Attrib(Pen& pen) {
+  const auto* text = AcDbTaggedText::cast(&pen.entity());
   const int mode = pen.variables().attributeMode;
-  const auto* attribute = AcDbTaggedText::cast(&pen.entity());
-  const bool hidden = attribute && attribute->isInvisible();
-  if (mode == 0 || (hidden && mode != 2)) return;
-  draw(pen, pen.tags().text(1), 74);
+  if (!text || mode == 0 || (text->isInvisible() && mode != 2)) return;
+  draw(pen, *text, text->textString());
 }
 
 void painters::Attdef(Pen& pen) {
-  // In an insertion its attributes stand for it, unless it is the same everywhere.
   const auto* definition = AcDbAttributeDefinition::cast(&pen.entity());
-  const bool constant = definition && definition->isConstant();
+  if (!definition) return;
+  // In an insertion its attributes stand for it, unless it is the same everywhere.
+  const bool constant = definition->isConstant();
   if (pen.frame().inBlock) return constant ? Attrib(pen) : Nothing(pen);
-  draw(pen, pen.tags().text(constant ? 1 : 2), 74);
+  draw(pen, *definition, constant ? definition->textString() : definition->tag());
 }
 
 } // namespace scene

@@ -48,6 +48,39 @@ TEST(ThinLines, CoverAPixelForEachPixelOfTheirLongerSide) {
   EXPECT_NEAR(0.6, inkOfLine(10.2, 10.5, 10.8, 10.6), 0.05);
 }
 
+// Of a draft: white pixels, one for each along the line, within the smooth one.
+TEST(ThinLines, OfADraftRunWithinTheSmoothOnes) {
+  std::mt19937 random(5);
+  std::uniform_real_distribution<double> place(5, 195);
+  for (int i = 0; i < 300; ++i) {
+    const AcGePoint2d from(place(random), place(random));
+    const AcGePoint2d to(place(random), place(random));
+    QImage draft = black(200, 200);
+    desktop::ThinLines quick(draft, draft.rect(), true);
+    quick.setColor(Qt::white);
+    quick.line(from, to, true);
+    QImage smooth = black(200, 200);
+    desktop::ThinLines slow(smooth, smooth.rect());
+    slow.setColor(Qt::white);
+    slow.line(from, to, true);
+    const double longer = std::max(std::fabs(to.x - from.x), std::fabs(to.y - from.y));
+    ASSERT_NEAR(longer, ink(draft), 2);
+    int outside = 0;
+    for (int y = 0; y < 200; ++y)
+      for (int x = 0; x < 200; ++x)
+        if (qGreen(draft.pixel(x, y)) > 0 && qGreen(smooth.pixel(x, y)) < 100) ++outside;
+    ASSERT_LE(outside, 2); // the ends, which the smooth line covers in part
+  }
+}
+
+TEST(ThinLines, OfADraftMixTransparentColours) {
+  QImage image = black(20, 20);
+  desktop::ThinLines lines(image, image.rect(), true);
+  lines.setColor(QColor(255, 255, 255, 128));
+  lines.line({2.5, 3.5}, {12.5, 8.5}, true);
+  EXPECT_NEAR(128, qGreen(image.pixel(2, 3)), 2);
+}
+
 TEST(ThinLines, AlongTheAxesAreSharp) {
   QImage image = black(40, 40);
   desktop::ThinLines lines(image, image.rect());
@@ -64,6 +97,8 @@ TEST(ThinLines, AnywhereStayWithinTheirArea) {
   const QRect area(20, 10, 50, 40);
   desktop::ThinLines lines(image, area);
   lines.setColor(Qt::white);
+  desktop::ThinLines draft(image, area, true);
+  draft.setColor(Qt::white);
   std::mt19937 random(3);
   std::uniform_real_distribution<double> near(-50, 150);
   std::uniform_real_distribution<double> far(-1e9, 1e9);
@@ -71,6 +106,7 @@ TEST(ThinLines, AnywhereStayWithinTheirArea) {
     auto& place = i % 2 ? near : far;
     lines.line({place(random), near(random)}, {near(random), place(random)}, i % 3 != 0);
     lines.dot({near(random), near(random)});
+    draft.line({place(random), near(random)}, {near(random), place(random)}, true);
   }
   EXPECT_GT(ink(image.copy(area)), 0);
   QPainter(&image).fillRect(area, Qt::black);
@@ -175,6 +211,12 @@ class Painting : public Desktop {
     entity->close();
     return id;
   }
+  void addManyLines() {
+    for (int i = 0; i < 20'000; ++i) {
+      const AcGePoint3d from(i % 200 * 5.0, i / 200 * 10.0, 0);
+      add(new AcDbLine(from, from + AcGeVector3d(4, 7, 0)));
+    }
+  }
   desktop::PaintedView painted(const ViewMap& map) {
     desktop::PaintedView view;
     view.begin(map, Qt::black);
@@ -244,6 +286,42 @@ TEST_F(Painting, AChangeIsPaintedInItsBox) {
   change = picture.update();
   view.repaint(change.box, picture);
   expectAlike(painted(map).image(), view.image());
+}
+
+TEST_F(Painting, OfALargeDrawingADraftIsShownFirst) {
+  addManyLines();
+  look(500, 500, 900);
+  canvas().setDocument(nullptr);
+  canvas().setDocument(curDoc());
+  EXPECT_FALSE(canvas().isShown());
+  ASSERT_TRUE(QTest::qWaitFor([&] { return canvas().isShown(); }, 10'000));
+  EXPECT_FALSE(canvas().isPainted());
+  const QImage draft = canvas().grab().toImage();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return canvas().isPainted(); }, 10'000));
+  const QImage smooth = canvas().grab().toImage();
+  EXPECT_NE(smooth, draft);
+  canvas().refresh(true);
+  canvas().finishPainting();
+  expectAlike(canvas().grab().toImage(), smooth);
+}
+
+TEST_F(Painting, ADraftThatIsShiftedAndChangedIsASmoothPictureInTheEnd) {
+  addManyLines();
+  look(500, 500, 900);
+  canvas().setDocument(nullptr);
+  canvas().setDocument(curDoc());
+  ASSERT_TRUE(QTest::qWaitFor([&] { return canvas().isShown(); }, 10'000));
+  const double step = canvas().map().unitsPerPixel * 30;
+  look(500 + step, 500, 900);
+  canvas().viewMoved();
+  canvas().repaint();
+  add(new AcDbLine({300, 300, 0}, {700, 710, 0}));
+  canvas().refresh();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return canvas().isPainted(); }, 10'000));
+  const QImage shown = canvas().grab().toImage();
+  canvas().refresh(true);
+  canvas().finishPainting();
+  expectAlike(canvas().grab().toImage(), shown);
 }
 
 TEST_F(Painting, TheCanvasShowsTheViewBeforeUntilTheNextIsDone) {
