@@ -58,7 +58,7 @@ void SwitchShown(CGridCtrl& grid, const layers::StateColumn& column, bool set) {
 void SwitchOthers(const CGridCtrl& grid, bool off) {
   std::unordered_set<CString> shown; // asked for once per layer of the drawing
   for (int row = 0; row < grid.GetRowCount(); ++row) shown.insert(grid.GetItemText(row, layers::kNameColumn));
-  const DocumentWriteLock lock(L"其他图层开关");
+  const DocumentWriteLock lock;
   if (!lock.IsHeld()) return;
   CStringArray names;
   ZP::GetCurDwgAllLayer(names);
@@ -99,6 +99,7 @@ std::vector<UiMenuItem> layers::LayerMenu() {
 
 void layers::RunLayerCommand(CGridCtrl& grid, int id) {
   const LayerCommand& command = kCommands[id];
+  const DocumentWriteLock step(command.label); // what it does is taken back at once
   if (command.scope == LayerCommand::Scope::shown)
     SwitchShown(grid, *FindStateColumn(command.column), command.set);
   else

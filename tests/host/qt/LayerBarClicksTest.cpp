@@ -103,6 +103,21 @@ TEST_F(LayerBarClicks, AreTakenBackOneByOne) {
        [&] { EXPECT_FALSE(layer(L"采暖供水").isOff()); }});
 }
 
+TEST_F(LayerBarClicks, TakeBackACommandForAllRowsAtOnce) {
+  run({[&] { enter("KOR_CADTCKZ"); },
+       [&] {
+         choose(cell(table(), 0, kLockedColumn), 5);
+         EXPECT_TRUE(layer(L"采暖供水").isLocked());
+         EXPECT_TRUE(layer(L"采暖回水").isLocked());
+         enter("U");
+       },
+       [&] {
+         EXPECT_FALSE(layer(L"采暖供水").isLocked());
+         EXPECT_FALSE(layer(L"采暖回水").isLocked());
+         EXPECT_NE(said().find("已放弃 全部锁定"), std::string::npos);
+       }});
+}
+
 TEST_F(LayerBarClicks, ShowAPictureForEachState) {
   run({[&] { enter("KOR_CADTCKZ"); },
        [&] {
