@@ -1,7 +1,7 @@
 #include "host/afx/CInvalidArgException.h"
 
 const char* CInvalidArgException::what() const noexcept {
-  return "invalid argument: index or count out of range";
+  return "内部错误，序号或个数超出范围";
 }
 
 void AfxThrowInvalidArgException() {

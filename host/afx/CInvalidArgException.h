@@ -1,5 +1,5 @@
 // What an index or count outside its range raises. It marks a programming error: nothing but a test
-// or the outermost command loop is expected to catch it.
+// or the outermost command loop is expected to catch it, which shows its text to the user.
 #pragma once
 
 #include <exception>

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <new>
 #include <utility>
 
 EdSession::EdSession()
@@ -212,6 +213,8 @@ EdSession::Outcome EdSession::call(Running& running, CString& failure) {
   try {
     running.command->functionAddr()();
     return running.lastInputCancelled ? Outcome::cancelled : Outcome::done;
+  } catch (const std::bad_alloc&) {
+    failure = L"命令“" + name + L"”出错：内存不足。";
   } catch (const std::exception& error) {
     failure = L"命令“" + name + L"”出错：" + CString::FromUtf8(error.what());
   } catch (...) {

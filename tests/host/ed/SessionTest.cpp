@@ -1,9 +1,11 @@
+#include "host/afx/CInvalidArgException.h"
 #include "host/ed/EdPrompts.h"
 #include "host/ed/acedCommand.h"
 #include "host/ed/acedWindows.h"
 #include "host/ed/acutPrintf.h"
 #include "tests/support/EditorFixture.h"
 
+#include <new>
 #include <stdexcept>
 
 namespace {
@@ -98,6 +100,16 @@ TEST_F(Session, AThrowingCommandIsReportedAndRolledBack) {
   ASSERT_EQ(1u, frontEnd.refusals.size());
   EXPECT_GE(frontEnd.refusals[0].reason.Find(L"broken"), 0);
   EXPECT_TRUE(document->isQuiescent());
+}
+
+TEST_F(Session, WhatTheHouseItselfRaisesIsToldInTheUsersLanguage) {
+  define(L"TMEMORY", [] { throw std::bad_alloc(); });
+  define(L"TINDEX", [] { AfxThrowInvalidArgException(); });
+  run(L"TMEMORY");
+  run(L"TINDEX");
+  ASSERT_EQ(2u, frontEnd.refusals.size());
+  EXPECT_EQ(L"命令“TMEMORY”出错：内存不足。", frontEnd.refusals[0].reason);
+  EXPECT_EQ(L"命令“TINDEX”出错：内部错误，序号或个数超出范围", frontEnd.refusals[1].reason);
 }
 
 TEST_F(Session, AnUnknownCommandIsNamed) {
