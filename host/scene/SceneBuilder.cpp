@@ -240,7 +240,7 @@ void SceneBuilder::drawContents(const Frame& frame, const AcDbBlockTableRecord& 
     drawEntity(frame, id);
   }
   if (!isNew) return;
-  if (m_exhausted) m_learnt->state = BlockShapes::State::mixed;
+  if (m_exhausted) noteMixed();
   if (m_learnt->state == BlockShapes::State::mixed) m_learnt->parts.clear();
 }
 
@@ -254,15 +254,11 @@ void SceneBuilder::drawShapes(const Frame& frame, const BlockShapes& shapes) {
 
 void SceneBuilder::wait() {
   m_scene.isProvisional = true;
-  if (m_learnt) m_learnt->state = BlockShapes::State::mixed;
+  noteMixed();
 }
 
-void SceneBuilder::noteDrawn(const AcDbEntity& entity, const BlockEntity* shape, const Look& look) {
-  if (!m_learnt) return;
-  if (shape)
-    m_learnt->parts.push_back({&entity, shape, look});
-  else
-    m_learnt->state = BlockShapes::State::mixed;
+void SceneBuilder::noteMixed() {
+  if (m_learnt) m_learnt->state = BlockShapes::State::mixed;
 }
 
 Frame SceneBuilder::blockFrame(const Frame& outer, std::int32_t clip, const Look& look,
@@ -329,8 +325,12 @@ void SceneBuilder::drawShape(Pen& pen, BlockEntity& kept) {
     recording.recordIn(*kept.shape);
     kept.painter.draw(recording);
   }
-  noteDrawn(pen.entity(), kept.shape->isWhole ? &kept : nullptr, pen.look());
-  kept.shape->isWhole ? pen.draw(*kept.shape) : kept.painter.draw(pen);
+  if (!kept.shape->isWhole) {
+    noteMixed();
+    return kept.painter.draw(pen);
+  }
+  if (m_learnt) m_learnt->parts.push_back({&pen.entity(), &kept, pen.look()});
+  pen.draw(*kept.shape);
 }
 
 void SceneBuilder::drawEntity(const Frame& frame, const AcDbObjectId& id) {
@@ -350,7 +350,7 @@ void SceneBuilder::drawEntity(const Frame& frame, const AcDbObjectId& id) {
   Pen pen(*this, frame, *entity, tags, look);
   if (m_options.whileReading && painter.draw && painter.reach == Reach::drawing) return wait();
   if (kept && painter.reach == Reach::shape && isFlat(frame.toScene)) return drawShape(pen, *kept);
-  if (!isLeftToAttributes(*entity)) noteDrawn(*entity, nullptr, look);
+  if (!isLeftToAttributes(*entity)) noteMixed();
   if (painter.draw) return painter.draw(pen);
   m_scene.asksPlugIns = true;
   if (!m_options.asksPlugIns) return;

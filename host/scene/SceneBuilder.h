@@ -69,8 +69,8 @@ class SceneBuilder {
   void drawShape(Pen& pen, BlockEntity& kept);
   void drawContents(const Frame& frame, const AcDbBlockTableRecord& contents);
   void drawShapes(const Frame& frame, const BlockShapes& shapes);
-  // Tells the block that is being drawn of an entity in it: null for one that is not of shapes.
-  void noteDrawn(const AcDbEntity& entity, const BlockEntity* shape, const Look& look);
+  // Something in the block that is being drawn is no shape.
+  void noteMixed();
   Frame blockFrame(const Frame& outer, std::int32_t clip, const Look& look, const AcDbEntity& insertion,
                    const AcGeMatrix3d& toSpace) const;
   const DrawingLooks& drawingOf(const AcDbBlockTableRecord& block);

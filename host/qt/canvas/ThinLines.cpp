@@ -61,8 +61,8 @@ void ThinLines::dot(const AcGePoint2d& at) {
   Blend(m_pixels[static_cast<int>(at.y) * y.stride + static_cast<int>(at.x)], m_color, m_alpha);
 }
 
-// Which way a line runs changes from line to line: what depends on it is looked up, for a processor that
-// guesses wrong loses more time than the line takes.
+// Which way a line runs changes from line to line: what depends on it is looked up, for a processor can't
+// guess it, and a wrong guess takes as long as some pixels.
 void ThinLines::line(const AcGePoint2d& from, const AcGePoint2d& to, bool smooth) {
   double begin = 0;
   double end = 1;

@@ -17,7 +17,7 @@ namespace desktop {
 class ThinLines {
  public:
   // Draws within the area only. The image has the format RGB32, is shared with nobody, and outlives this. A
-  // draft is smooth nowhere and done in half the time.
+  // draft is smooth nowhere and done sooner.
   ThinLines(QImage& image, const QRect& area, bool draft = false);
   void setColor(const QColor& color);
   // Coordinates are pixels, y down; a pixel is the square between two integers. A smooth line shades the

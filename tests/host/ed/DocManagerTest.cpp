@@ -97,6 +97,16 @@ TEST_F(DocManager, ALockUnderWhichNothingChangesLeavesNoStep) {
   EXPECT_EQ(0u, database().undo().commandCount());
 }
 
+TEST_F(DocManager, NeitherALockForReadingNorOneThatIsRefusedBeginsAStep) {
+  acDocManager->lockDocument(document, AcAp::kRead);
+  EXPECT_FALSE(database().undo().isRecording());
+  acDocManager->unlockDocument(document);
+  Recorder recorder;
+  recorder.refuseLocks = true;
+  acDocManager->lockDocument(document);
+  EXPECT_FALSE(database().undo().isRecording());
+}
+
 TEST_F(DocManager, LocksWithinACommandBelongToItsStep) {
   define(L"ADD", [] {
     acDocManager->lockDocument(curDoc(), AcAp::kWrite, L"灯");
